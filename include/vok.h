@@ -1,0 +1,433 @@
+/* vok: image and vector processing primitives.
+ *
+ * Every operation takes the caller's pointers, byte row steps and a region
+ * size, checks them, computes and returns a status. Nothing is kept between
+ * calls. This header is valid C99 and C++. */
+#ifndef VOK_H
+#define VOK_H
+
+#include <stdint.h>
+
+#if defined(_WIN32)
+#define VOK_API
+#else
+#define VOK_API __attribute__((visibility("default")))
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- Sample types ------------------------------------------------------ */
+typedef uint8_t Vok8u;
+typedef int8_t Vok8s;
+typedef uint16_t Vok16u;
+typedef int16_t Vok16s;
+typedef uint32_t Vok32u;
+typedef int32_t Vok32s;
+typedef int64_t Vok64s;
+typedef float Vok32f;
+typedef double Vok64f;
+typedef struct { Vok16s re, im; } Vok16sc;
+typedef struct { Vok32s re, im; } Vok32sc;
+typedef struct { Vok32f re, im; } Vok32fc;
+
+/* ---- Geometry records, passed by value --------------------------------- */
+typedef struct { int32_t width, height; } VokiSize;
+typedef struct { int32_t x, y; } VokiPoint;
+typedef struct { int32_t x, y, width, height; } VokiRect;
+
+/* ---- Status: 0 success, negative error, positive warning --------------- */
+typedef int32_t VokStatus;
+enum {
+  vokStatusOk = 0,
+  vokStatusBadSize = -6,
+  vokStatusBadBounds = -7,
+  vokStatusNullPointer = -8,
+  vokStatusNoMemory = -9,
+  vokStatusDivideByZero = -10,
+  vokStatusBadRange = -13,
+  vokStatusBadStep = -14,
+  vokStatusBadOrder = -15,
+  vokStatusBadFlag = -16,
+  vokStatusBadContext = -17,
+  vokStatusBadThresholds = -18,
+  vokStatusMomentZero = -20,
+  vokStatusBadAxis = -21,
+  vokStatusBadInterpolation = -22,
+  vokStatusBadResizeFactor = -23,
+  vokStatusBadMaskSize = -33,
+  vokStatusBadAnchor = -34,
+  vokStatusBadEpsilon = -36,
+  vokStatusRoiTooLarge = -37,
+  vokStatusBadMomentIndex = -47,
+  vokStatusBadGammaRange = -49,
+  vokStatusBadAlphaType = -50,
+  vokStatusBadDivisor = -51,
+  vokStatusBadChannelCount = -53,
+  vokStatusBadLevels = -54,
+  vokStatusBadNoise = -55,
+  vokStatusBadQuad = -56,
+  vokStatusBadRect = -57,
+  vokStatusBadCoeffs = -58,
+  vokStatusZeroMask = -59,
+  vokStatusBadChannelOrder = -60,
+  vokStatusFewLutLevels = -106,
+  vokStatusFewHistLevels = -107,
+  vokStatusBadNoiseLevel = -125,
+  vokStatusBadMode = -9999,
+  vokStatusNoOperation = 1,
+  vokWarnSqrtDomain = 3,
+  vokWarnDivideByZero = 6,
+  vokWarnSingularity = 7,
+  vokWarnDomain = 8,
+  vokWarnQuadNotAffine = 28,
+  vokWarnNoResize = 29,
+  vokWarnNoOverlap = 30
+};
+
+/* ---- Selectors: signed 32-bit values passed by value ------------------- */
+typedef int32_t VokCmpOp;
+enum {
+  vokCmpLess = 0,
+  vokCmpLessEq = 1,
+  vokCmpEq = 2,
+  vokCmpGreaterEq = 3,
+  vokCmpGreater = 4
+};
+
+typedef int32_t VokiAxis;
+enum { vokAxisHorizontal = 0, vokAxisVertical = 1, vokAxisBoth = 2 };
+
+/* Mask names give width then height: vokMask3x1 is horizontal. */
+typedef int32_t VokiMaskSize;
+enum {
+  vokMask1x3 = 13,
+  vokMask1x5 = 15,
+  vokMask3x1 = 31,
+  vokMask3x3 = 33,
+  vokMask5x1 = 51,
+  vokMask5x5 = 55
+};
+
+typedef int32_t VokInterpolation;
+enum {
+  vokInterNearest = 1,
+  vokInterLinear = 2,
+  vokInterCubic = 4,
+  vokInterSuper = 8,
+  vokInterLanczos = 16,
+  vokSmoothEdge = (int32_t)0x80000000u /* or-ed onto the selector */
+};
+
+typedef int32_t VokHint;
+enum { vokHintNone = 0, vokHintFast = 1, vokHintAccurate = 2 };
+
+typedef int32_t VokRoundMode;
+enum { vokRoundZero = 0, vokRoundNear = 1 };
+
+typedef int32_t VokDitherType;
+enum {
+  vokDitherNone = 0,
+  vokDitherFS = 1,
+  vokDitherJJN = 2,
+  vokDitherStucki = 3,
+  vokDitherBayer = 4
+};
+
+typedef int32_t VokAlphaType;
+enum {
+  vokAlphaOver = 0,
+  vokAlphaIn = 1,
+  vokAlphaOut = 2,
+  vokAlphaAtop = 3,
+  vokAlphaXor = 4,
+  vokAlphaPlus = 5,
+  vokAlphaOverPremul = 6,
+  vokAlphaInPremul = 7,
+  vokAlphaOutPremul = 8,
+  vokAlphaAtopPremul = 9,
+  vokAlphaXorPremul = 10,
+  vokAlphaPlusPremul = 11
+};
+
+/* Transform normalisation flags. */
+enum { vokDivFwdByN = 1, vokDivInvByN = 2, vokDivBySqrtN = 4, vokNoDiv = 8 };
+
+/* ---- Version ----------------------------------------------------------- */
+typedef struct {
+  int32_t versionMajor;
+  int32_t versionMinor;
+  int32_t buildMajor;
+  int32_t buildNumber;
+  char targetCode[4];
+  const char* libraryName;
+  const char* versionText;
+  const char* buildDate;
+} VokLibVersion;
+
+/* A pointer to the library's one constant version record; never freed. */
+VOK_API const VokLibVersion* vokiGetLibVersion(void);
+
+/* ---- Constants with exact bits (both NaNs have the sign bit set) -------- */
+VOK_API extern const Vok32f vokConstantOfNAN_32f;
+VOK_API extern const Vok32f vokConstantOfINF_32f;
+VOK_API extern const Vok32f vokConstantOfINF_NEG_32f;
+VOK_API extern const Vok64f vokConstantOfNAN_64f;
+VOK_API extern const Vok64f vokConstantOfINF_64f;
+VOK_API extern const Vok64f vokConstantOfINF_NEG_64f;
+
+/* ---- Memory -------------------------------------------------------------
+ * 32-byte aligned blocks; a count below 1 gives null. Any block from either
+ * allocator family is released by voksFree or vokiFree. */
+VOK_API Vok8u* voksMalloc_8u(int len);
+VOK_API Vok8s* voksMalloc_8s(int len);
+VOK_API Vok16u* voksMalloc_16u(int len);
+VOK_API Vok16s* voksMalloc_16s(int len);
+VOK_API Vok32u* voksMalloc_32u(int len);
+VOK_API Vok32s* voksMalloc_32s(int len);
+VOK_API Vok32f* voksMalloc_32f(int len);
+VOK_API Vok16sc* voksMalloc_16sc(int len);
+VOK_API Vok64s* voksMalloc_64s(int len);
+VOK_API Vok32fc* voksMalloc_32fc(int len);
+VOK_API Vok32sc* voksMalloc_32sc(int len);
+VOK_API void voksFree(void* ptr);
+
+/* Image allocators: the row step, a multiple of 32 bytes, goes to *step. A
+ * P3 block holds three planes, plane k at k * height * step bytes. */
+VOK_API Vok8u* vokiMalloc_8u_C1(int width, int height, int* step);
+VOK_API Vok8u* vokiMalloc_8u_C2(int width, int height, int* step);
+VOK_API Vok8u* vokiMalloc_8u_C3(int width, int height, int* step);
+VOK_API Vok8u* vokiMalloc_8u_C4(int width, int height, int* step);
+VOK_API Vok8u* vokiMalloc_8u_AC4(int width, int height, int* step);
+VOK_API Vok8u* vokiMalloc_8u_P3(int width, int height, int* step);
+VOK_API Vok16u* vokiMalloc_16u_C1(int width, int height, int* step);
+VOK_API Vok16u* vokiMalloc_16u_C2(int width, int height, int* step);
+VOK_API Vok16u* vokiMalloc_16u_C3(int width, int height, int* step);
+VOK_API Vok16u* vokiMalloc_16u_C4(int width, int height, int* step);
+VOK_API Vok16u* vokiMalloc_16u_AC4(int width, int height, int* step);
+VOK_API Vok16u* vokiMalloc_16u_P3(int width, int height, int* step);
+VOK_API Vok16s* vokiMalloc_16s_C1(int width, int height, int* step);
+VOK_API Vok16s* vokiMalloc_16s_C2(int width, int height, int* step);
+VOK_API Vok16s* vokiMalloc_16s_C3(int width, int height, int* step);
+VOK_API Vok16s* vokiMalloc_16s_C4(int width, int height, int* step);
+VOK_API Vok16s* vokiMalloc_16s_AC4(int width, int height, int* step);
+VOK_API Vok16s* vokiMalloc_16s_P3(int width, int height, int* step);
+VOK_API Vok32s* vokiMalloc_32s_C1(int width, int height, int* step);
+VOK_API Vok32s* vokiMalloc_32s_C2(int width, int height, int* step);
+VOK_API Vok32s* vokiMalloc_32s_C3(int width, int height, int* step);
+VOK_API Vok32s* vokiMalloc_32s_C4(int width, int height, int* step);
+VOK_API Vok32s* vokiMalloc_32s_AC4(int width, int height, int* step);
+VOK_API Vok32s* vokiMalloc_32s_P3(int width, int height, int* step);
+VOK_API Vok32f* vokiMalloc_32f_C1(int width, int height, int* step);
+VOK_API Vok32f* vokiMalloc_32f_C2(int width, int height, int* step);
+VOK_API Vok32f* vokiMalloc_32f_C3(int width, int height, int* step);
+VOK_API Vok32f* vokiMalloc_32f_C4(int width, int height, int* step);
+VOK_API Vok32f* vokiMalloc_32f_AC4(int width, int height, int* step);
+VOK_API Vok32f* vokiMalloc_32f_P3(int width, int height, int* step);
+VOK_API Vok32sc* vokiMalloc_32sc_C1(int width, int height, int* step);
+VOK_API Vok32sc* vokiMalloc_32sc_C2(int width, int height, int* step);
+VOK_API Vok32sc* vokiMalloc_32sc_C3(int width, int height, int* step);
+VOK_API Vok32sc* vokiMalloc_32sc_C4(int width, int height, int* step);
+VOK_API Vok32sc* vokiMalloc_32sc_AC4(int width, int height, int* step);
+VOK_API Vok32sc* vokiMalloc_32sc_P3(int width, int height, int* step);
+VOK_API Vok32fc* vokiMalloc_32fc_C1(int width, int height, int* step);
+VOK_API Vok32fc* vokiMalloc_32fc_C2(int width, int height, int* step);
+VOK_API Vok32fc* vokiMalloc_32fc_C3(int width, int height, int* step);
+VOK_API Vok32fc* vokiMalloc_32fc_C4(int width, int height, int* step);
+VOK_API Vok32fc* vokiMalloc_32fc_AC4(int width, int height, int* step);
+VOK_API Vok32fc* vokiMalloc_32fc_P3(int width, int height, int* step);
+VOK_API void vokiFree(void* ptr);
+
+/* ---- Add, Sub, Mul of two images ---------------------------------------
+ * Sub computes src2 - src1 (in place: srcDst - src). Integer forms scale the
+ * exact result by 2^-scale, round ties to even and saturate. */
+VOK_API VokStatus vokiAdd_8u_C1RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_8u_C1IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_8u_C3RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_8u_C3IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_8u_C4RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_8u_C4IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_8u_AC4RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_8u_AC4IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16s_C1RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16s_C1IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16s_C3RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16s_C3IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16s_C4RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16s_C4IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16s_AC4RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16s_AC4IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_32f_C1R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32f_C1IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32f_C3R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32f_C3IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32f_C4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32f_C4IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32f_AC4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32f_AC4IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_8u_C1RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_8u_C1IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_8u_C3RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_8u_C3IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_8u_C4RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_8u_C4IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_8u_AC4RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_8u_AC4IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16s_C1RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16s_C1IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16s_C3RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16s_C3IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16s_C4RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16s_C4IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16s_AC4RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16s_AC4IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_32f_C1R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32f_C1IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32f_C3R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32f_C3IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32f_C4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32f_C4IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32f_AC4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32f_AC4IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_8u_C1RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_8u_C1IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_8u_C3RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_8u_C3IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_8u_C4RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_8u_C4IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_8u_AC4RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_8u_AC4IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16s_C1RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16s_C1IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16s_C3RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16s_C3IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16s_C4RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16s_C4IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16s_AC4RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16s_AC4IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_32f_C1R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32f_C1IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32f_C3R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32f_C3IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32f_C4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32f_C4IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32f_AC4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32f_AC4IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+
+/* ---- AddC, SubC, MulC: an image and a constant per channel -------------
+ * SubC computes src - value. */
+VOK_API VokStatus vokiAddC_8u_C1RSfs(const Vok8u* src, int srcStep, Vok8u value, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_8u_C1IRSfs(Vok8u value, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_8u_C3RSfs(const Vok8u* src, int srcStep, const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_8u_C3IRSfs(const Vok8u value[3], Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_8u_C4RSfs(const Vok8u* src, int srcStep, const Vok8u value[4], Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_8u_C4IRSfs(const Vok8u value[4], Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_8u_AC4RSfs(const Vok8u* src, int srcStep, const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_8u_AC4IRSfs(const Vok8u value[3], Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16s_C1RSfs(const Vok16s* src, int srcStep, Vok16s value, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16s_C1IRSfs(Vok16s value, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16s_C3RSfs(const Vok16s* src, int srcStep, const Vok16s value[3], Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16s_C3IRSfs(const Vok16s value[3], Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16s_C4RSfs(const Vok16s* src, int srcStep, const Vok16s value[4], Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16s_C4IRSfs(const Vok16s value[4], Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16s_AC4RSfs(const Vok16s* src, int srcStep, const Vok16s value[3], Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16s_AC4IRSfs(const Vok16s value[3], Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_32f_C1R(const Vok32f* src, int srcStep, Vok32f value, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32f_C1IR(Vok32f value, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32f_C3R(const Vok32f* src, int srcStep, const Vok32f value[3], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32f_C3IR(const Vok32f value[3], Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32f_C4R(const Vok32f* src, int srcStep, const Vok32f value[4], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32f_C4IR(const Vok32f value[4], Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32f_AC4R(const Vok32f* src, int srcStep, const Vok32f value[3], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32f_AC4IR(const Vok32f value[3], Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_8u_C1RSfs(const Vok8u* src, int srcStep, Vok8u value, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_8u_C1IRSfs(Vok8u value, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_8u_C3RSfs(const Vok8u* src, int srcStep, const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_8u_C3IRSfs(const Vok8u value[3], Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_8u_C4RSfs(const Vok8u* src, int srcStep, const Vok8u value[4], Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_8u_C4IRSfs(const Vok8u value[4], Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_8u_AC4RSfs(const Vok8u* src, int srcStep, const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_8u_AC4IRSfs(const Vok8u value[3], Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16s_C1RSfs(const Vok16s* src, int srcStep, Vok16s value, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16s_C1IRSfs(Vok16s value, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16s_C3RSfs(const Vok16s* src, int srcStep, const Vok16s value[3], Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16s_C3IRSfs(const Vok16s value[3], Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16s_C4RSfs(const Vok16s* src, int srcStep, const Vok16s value[4], Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16s_C4IRSfs(const Vok16s value[4], Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16s_AC4RSfs(const Vok16s* src, int srcStep, const Vok16s value[3], Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16s_AC4IRSfs(const Vok16s value[3], Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_32f_C1R(const Vok32f* src, int srcStep, Vok32f value, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32f_C1IR(Vok32f value, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32f_C3R(const Vok32f* src, int srcStep, const Vok32f value[3], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32f_C3IR(const Vok32f value[3], Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32f_C4R(const Vok32f* src, int srcStep, const Vok32f value[4], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32f_C4IR(const Vok32f value[4], Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32f_AC4R(const Vok32f* src, int srcStep, const Vok32f value[3], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32f_AC4IR(const Vok32f value[3], Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_8u_C1RSfs(const Vok8u* src, int srcStep, Vok8u value, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_8u_C1IRSfs(Vok8u value, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_8u_C3RSfs(const Vok8u* src, int srcStep, const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_8u_C3IRSfs(const Vok8u value[3], Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_8u_C4RSfs(const Vok8u* src, int srcStep, const Vok8u value[4], Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_8u_C4IRSfs(const Vok8u value[4], Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_8u_AC4RSfs(const Vok8u* src, int srcStep, const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_8u_AC4IRSfs(const Vok8u value[3], Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16s_C1RSfs(const Vok16s* src, int srcStep, Vok16s value, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16s_C1IRSfs(Vok16s value, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16s_C3RSfs(const Vok16s* src, int srcStep, const Vok16s value[3], Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16s_C3IRSfs(const Vok16s value[3], Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16s_C4RSfs(const Vok16s* src, int srcStep, const Vok16s value[4], Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16s_C4IRSfs(const Vok16s value[4], Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16s_AC4RSfs(const Vok16s* src, int srcStep, const Vok16s value[3], Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16s_AC4IRSfs(const Vok16s value[3], Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_32f_C1R(const Vok32f* src, int srcStep, Vok32f value, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32f_C1IR(Vok32f value, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32f_C3R(const Vok32f* src, int srcStep, const Vok32f value[3], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32f_C3IR(const Vok32f value[3], Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32f_C4R(const Vok32f* src, int srcStep, const Vok32f value[4], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32f_C4IR(const Vok32f value[4], Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32f_AC4R(const Vok32f* src, int srcStep, const Vok32f value[3], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32f_AC4IR(const Vok32f value[3], Vok32f* srcDst, int srcDstStep, VokiSize roi);
+
+/* ---- MulScale, MulCScale: products where full scale stands for 1.0 -----
+ * floor(a * b / 255) for 8u and floor(a * b / 65535) for 16u. */
+VOK_API VokStatus vokiMulScale_8u_C1R(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_8u_C1IR(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_8u_C3R(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_8u_C3IR(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_8u_C4R(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_8u_C4IR(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_8u_AC4R(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_8u_AC4IR(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_16u_C1R(const Vok16u* src1, int src1Step, const Vok16u* src2, int src2Step, Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_16u_C1IR(const Vok16u* src, int srcStep, Vok16u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_16u_C3R(const Vok16u* src1, int src1Step, const Vok16u* src2, int src2Step, Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_16u_C3IR(const Vok16u* src, int srcStep, Vok16u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_16u_C4R(const Vok16u* src1, int src1Step, const Vok16u* src2, int src2Step, Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_16u_C4IR(const Vok16u* src, int srcStep, Vok16u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_16u_AC4R(const Vok16u* src1, int src1Step, const Vok16u* src2, int src2Step, Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulScale_16u_AC4IR(const Vok16u* src, int srcStep, Vok16u* srcDst, int srcDstStep, VokiSize roi);
+
+VOK_API VokStatus vokiMulCScale_8u_C1R(const Vok8u* src, int srcStep, Vok8u value, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_8u_C1IR(Vok8u value, Vok8u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_8u_C3R(const Vok8u* src, int srcStep, const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_8u_C3IR(const Vok8u value[3], Vok8u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_8u_C4R(const Vok8u* src, int srcStep, const Vok8u value[4], Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_8u_C4IR(const Vok8u value[4], Vok8u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_8u_AC4R(const Vok8u* src, int srcStep, const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_8u_AC4IR(const Vok8u value[3], Vok8u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_16u_C1R(const Vok16u* src, int srcStep, Vok16u value, Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_16u_C1IR(Vok16u value, Vok16u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_16u_C3R(const Vok16u* src, int srcStep, const Vok16u value[3], Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_16u_C3IR(const Vok16u value[3], Vok16u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_16u_C4R(const Vok16u* src, int srcStep, const Vok16u value[4], Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_16u_C4IR(const Vok16u value[4], Vok16u* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_16u_AC4R(const Vok16u* src, int srcStep, const Vok16u value[3], Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulCScale_16u_AC4IR(const Vok16u value[3], Vok16u* srcDst, int srcDstStep, VokiSize roi);
+
+#ifdef __cplusplus
+} /* extern "C" */
+#endif
+
+#endif /* VOK_H */
