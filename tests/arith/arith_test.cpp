@@ -184,7 +184,8 @@ void CompareWithModel(uint32_t seed) {
   vok_test::ForEachTarget([&](const char*) {
     for (const Form<T>& form : Forms<T>()) {
       SCOPED_TRACE(form.name);
-      for (int scale : Scales<T>(form.op)) {
+      for (int scale : Scales<T>(form.op))
+      for (int trial = 0; trial < 3; ++trial) {
         SCOPED_TRACE(scale);
         const int width = vok_test::TestWidths()[rng() % vok_test::TestWidths().size()];
         const int height = 1 + rng() % 3;
