@@ -12,9 +12,12 @@
 #define VOK_FOUNDATION_ROWS_INL_H_
 #endif
 
+#include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 #include "foundation/image.h"
+#include "hwy/cache_control.h"
 #include "hwy/highway.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -46,38 +49,69 @@ HWY_INLINE auto AlphaLanes(D d) {
   return hn::RebindMask(d, hn::Eq(lane, hn::Set(du, TU{3})));
 }
 
-// Applies `rule` to n samples of a and b into out.
+// Applies `rule` to the first `count` samples, fewer than a vector, through
+// zero-padded stack copies so that nothing outside them is read or written.
 template <bool kKeepAlpha, class Rule, typename TA, typename TB, typename TO>
+HWY_INLINE void ApplyPartial(const Rule& rule, const TA* a, const TB* b,
+                             TO* out, size_t count) {
+  const auto d = rule.d;
+  HWY_ALIGN TA partA[HWY_MAX_BYTES] = {};
+  HWY_ALIGN TB partB[HWY_MAX_BYTES] = {};
+  HWY_ALIGN TO partOut[HWY_MAX_BYTES] = {};
+  std::memcpy(partA, a, count * sizeof(TA));
+  std::memcpy(partB, b, count * sizeof(TB));
+  auto v = rule(partA, partB);
+  if (kKeepAlpha) {
+    std::memcpy(partOut, out, count * sizeof(TO));
+    v = hn::IfThenElse(AlphaLanes(d), hn::Load(d, partOut), v);
+  }
+  hn::Store(v, d, partOut);
+  std::memcpy(out, partOut, count * sizeof(TO));
+}
+
+// Applies `rule` to n samples of a and b into out. Streaming stores bypass
+// the cache; they need a destination aligned to whole vectors, which a
+// partial first group reaches.
+template <bool kKeepAlpha, bool kStream, class Rule, typename TA, typename TB,
+          typename TO>
 HWY_INLINE void ApplyRowImpl(const Rule& rule, const TA* a, const TB* b,
                              TO* out, size_t n) {
   const auto d = rule.d;
   const size_t lanes = hn::Lanes(d);
-  const auto alpha = AlphaLanes(d);
-  auto store = [&](auto v, TO* to) {
-    if (kKeepAlpha) v = hn::IfThenElse(alpha, hn::LoadU(d, to), v);
-    hn::StoreU(v, d, to);
-  };
   size_t i = 0;
-  for (; i + lanes <= n; i += lanes) store(rule(a + i, b + i), out + i);
-  if (i == n) return;
-  const size_t rest = n - i;
-  HWY_ALIGN TA tailA[HWY_MAX_BYTES] = {};
-  HWY_ALIGN TB tailB[HWY_MAX_BYTES] = {};
-  HWY_ALIGN TO tailOut[HWY_MAX_BYTES] = {};
-  std::memcpy(tailA, a + i, rest * sizeof(TA));
-  std::memcpy(tailB, b + i, rest * sizeof(TB));
-  if (kKeepAlpha) std::memcpy(tailOut, out + i, rest * sizeof(TO));
-  store(rule(tailA, tailB), tailOut);
-  std::memcpy(out + i, tailOut, rest * sizeof(TO));
+  if constexpr (kStream) {
+    const size_t vectorBytes = lanes * sizeof(TO);
+    const size_t misaligned = reinterpret_cast<uintptr_t>(out) % vectorBytes;
+    if (vectorBytes >= 16 && misaligned % sizeof(TO) == 0) {
+      if (misaligned != 0) {
+        i = std::min(n, (vectorBytes - misaligned) / sizeof(TO));
+        ApplyPartial<false>(rule, a, b, out, i);
+      }
+      for (; i + lanes <= n; i += lanes) hn::Stream(rule(a + i, b + i), d, out + i);
+    }
+  }
+  const auto alpha = AlphaLanes(d);
+  for (; i + lanes <= n; i += lanes) {
+    auto v = rule(a + i, b + i);
+    if (kKeepAlpha) v = hn::IfThenElse(alpha, hn::LoadU(d, out + i), v);
+    hn::StoreU(v, d, out + i);
+  }
+  if (i < n) ApplyPartial<kKeepAlpha>(rule, a + i, b + i, out + i, n - i);
 }
+
+// Destinations at least this large are written past the cache, where
+// reading them in first would only cost bandwidth.
+constexpr size_t kStreamingBytes = size_t{8} << 20;
 
 template <class Rule, typename TA, typename TB, typename TO>
 HWY_INLINE void ApplyRow(const Rule& rule, const TA* a, const TB* b, TO* out,
-                         size_t n, bool keepAlpha) {
+                         size_t n, bool keepAlpha, bool stream) {
   if (keepAlpha) {
-    ApplyRowImpl<true>(rule, a, b, out, n);
+    ApplyRowImpl<true, false>(rule, a, b, out, n);
+  } else if (stream) {
+    ApplyRowImpl<false, true>(rule, a, b, out, n);
   } else {
-    ApplyRowImpl<false>(rule, a, b, out, n);
+    ApplyRowImpl<false, false>(rule, a, b, out, n);
   }
 }
 
@@ -92,13 +126,15 @@ HWY_NOINLINE void ApplyRows(const ElementRows& rows, int y0, int y1,
                             const Rule& rule) {
   const size_t n = rows.rowSamples;
   const bool keepAlpha = rows.layout.keepAlpha;
+  const bool stream = n * sizeof(TO) * rows.height >= kStreamingBytes;
   if (rows.constant == nullptr) {
     for (int y = y0; y < y1; ++y) {
       ApplyRow(rule, RowAt(static_cast<const T*>(rows.a), rows.aStep, y),
                RowAt(static_cast<const T*>(rows.b), rows.bStep, y),
                RowAt(static_cast<TO*>(rows.dst), rows.dstStep, y), n,
-               keepAlpha);
+               keepAlpha, stream);
     }
+    hwy::FlushStream();
     return;
   }
   HWY_ALIGN T pattern[kConstantChunk];
@@ -110,9 +146,10 @@ HWY_NOINLINE void ApplyRows(const ElementRows& rows, int y0, int y1,
     TO* out = RowAt(static_cast<TO*>(rows.dst), rows.dstStep, y);
     for (size_t i = 0; i < n; i += kConstantChunk) {
       const size_t count = n - i < kConstantChunk ? n - i : kConstantChunk;
-      ApplyRow(rule, a + i, pattern, out + i, count, keepAlpha);
+      ApplyRow(rule, a + i, pattern, out + i, count, keepAlpha, stream);
     }
   }
+  hwy::FlushStream();
 }
 
 }  // namespace HWY_NAMESPACE
