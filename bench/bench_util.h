@@ -9,6 +9,8 @@
 #include <opencv2/core.hpp>
 #include <random>
 
+#include "vok.h"
+
 namespace vok_bench {
 
 // Threads 1 runs both libraries single-threaded; 0 gives both all cores.
@@ -43,6 +45,30 @@ inline cv::Mat RandomMat(int width, int height, int type, uint32_t seed = 1) {
 inline void CountBytes(benchmark::State& state, const cv::Mat& m, int images) {
   state.SetBytesProcessed(int64_t(state.iterations()) * m.total() *
                           m.elemSize() * images);
+}
+
+inline VokiSize Roi(const cv::Mat& m) { return VokiSize{m.cols, m.rows}; }
+
+// Times op(a, b, dst) on two random images of `type` (sized and threaded by
+// the benchmark's arguments), counting three images of traffic.
+template <class Op>
+void RunBinary(benchmark::State& state, int type, Op op) {
+  SetThreads(state.range(2));
+  const cv::Mat a = RandomMat(state.range(0), state.range(1), type, 1);
+  const cv::Mat b = RandomMat(state.range(0), state.range(1), type, 2);
+  cv::Mat dst(a.size(), a.type());
+  for (auto _ : state) op(a, b, dst);
+  CountBytes(state, a, 3);
+}
+
+// Times op(src, dst) on one random image, counting two images of traffic.
+template <class Op>
+void RunUnary(benchmark::State& state, int type, Op op) {
+  SetThreads(state.range(2));
+  const cv::Mat src = RandomMat(state.range(0), state.range(1), type, 1);
+  cv::Mat dst(src.size(), src.type());
+  for (auto _ : state) op(src, dst);
+  CountBytes(state, src, 2);
 }
 
 }  // namespace vok_bench
