@@ -653,6 +653,72 @@ VOK_API VokStatus vokiRShiftC_32s_C4IR(const Vok32u value[4], Vok32s* srcDst, in
 VOK_API VokStatus vokiRShiftC_32s_AC4R(const Vok32s* src, int srcStep, const Vok32u value[3], Vok32s* dst, int dstStep, VokiSize roi);
 VOK_API VokStatus vokiRShiftC_32s_AC4IR(const Vok32u value[3], Vok32s* srcDst, int srcDstStep, VokiSize roi);
 
+/* ---- Resize -------------------------------------------------------------
+ * Scales a source ROI into a destination region. src is the origin of the
+ * whole source image (srcSize); neighbours outside the ROI but inside the
+ * image are read. Resize takes scale factors, ResizeShift the source step per
+ * destination pixel and the start position, ResizeCenter the factors and the
+ * source point that lands in the middle of the destination. interpolation is
+ * vokInterNearest, vokInterLinear, vokInterCubic, vokInterLanczos, or
+ * vokInterSuper when both factors are at most 1 (not for ResizeShift). Planar
+ * forms take arrays of plane pointers. AC4 leaves destination alpha as it was. */
+VOK_API VokStatus vokiResize_8u_C1R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_8u_C1R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_8u_C1R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_8u_C3R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_8u_C3R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_8u_C3R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_8u_C4R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_8u_C4R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_8u_C4R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_8u_AC4R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_8u_AC4R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_8u_AC4R(const Vok8u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_8u_P3R(const Vok8u* const src[3], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* const dst[3], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_8u_P3R(const Vok8u* const src[3], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* const dst[3], int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_8u_P3R(const Vok8u* const src[3], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* const dst[3], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_8u_P4R(const Vok8u* const src[4], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* const dst[4], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_8u_P4R(const Vok8u* const src[4], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* const dst[4], int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_8u_P4R(const Vok8u* const src[4], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok8u* const dst[4], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_16u_C1R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_16u_C1R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_16u_C1R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_16u_C3R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_16u_C3R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_16u_C3R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_16u_C4R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_16u_C4R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_16u_C4R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_16u_AC4R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_16u_AC4R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_16u_AC4R(const Vok16u* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_16u_P3R(const Vok16u* const src[3], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* const dst[3], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_16u_P3R(const Vok16u* const src[3], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* const dst[3], int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_16u_P3R(const Vok16u* const src[3], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* const dst[3], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_16u_P4R(const Vok16u* const src[4], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* const dst[4], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_16u_P4R(const Vok16u* const src[4], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* const dst[4], int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_16u_P4R(const Vok16u* const src[4], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok16u* const dst[4], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_32f_C1R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_32f_C1R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_32f_C1R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_32f_C3R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_32f_C3R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_32f_C3R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_32f_C4R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_32f_C4R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_32f_C4R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_32f_AC4R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_32f_AC4R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_32f_AC4R(const Vok32f* src, VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* dst, int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_32f_P3R(const Vok32f* const src[3], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* const dst[3], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_32f_P3R(const Vok32f* const src[3], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* const dst[3], int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_32f_P3R(const Vok32f* const src[3], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* const dst[3], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+VOK_API VokStatus vokiResize_32f_P4R(const Vok32f* const src[4], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* const dst[4], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
+VOK_API VokStatus vokiResizeShift_32f_P4R(const Vok32f* const src[4], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* const dst[4], int dstStep, VokiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
+VOK_API VokStatus vokiResizeCenter_32f_P4R(const Vok32f* const src[4], VokiSize srcSize, int srcStep, VokiRect srcRoi, Vok32f* const dst[4], int dstStep, VokiSize dstRoiSize, double xFactor, double yFactor, double xCenter, double yCenter, int interpolation);
+/* The source steps that ResizeShift needs to match Resize with these factors. */
+VOK_API VokStatus vokiGetResizeFract(VokiSize srcSize, VokiRect srcRoi, double xFactor, double yFactor, double* xFr, double* yFr, int interpolation);
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif

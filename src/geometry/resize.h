@@ -1,0 +1,98 @@
+// Resize between the exported entries and the per-instruction-set kernels.
+// Entries check and clip; the core turns positions into per-call tables; the
+// kernels run one band of destination rows of one plane.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "vok.h"
+
+namespace vok {
+
+enum class ResizeKind { kNearest, kLinear, kCubic, kLanczos, kSuper };
+
+// Linear weights of 8u and 16u are fixed point over this unit.
+constexpr int32_t kLinearOne = 16384;
+
+// Source positions of one axis, one entry per destination column or row. All
+// indices are pixels relative to the ROI origin.
+struct ResizeAxis {
+  int count;               // effective destination width or height
+  const int32_t* index;    // nearest, linear: left or upper neighbour;
+                           // cubic: base node
+  const float* fraction;   // linear 32f and cubic
+  const int32_t* fixed;    // linear 8u and 16u: weight of the second node
+  const int32_t* taps;     // Lanczos: six nodes clamped to the image
+  const float* weights;    // Lanczos: six weights
+};
+
+// One output of supersampling: entries [begin, end) whole, entry begin - 1
+// weighted by `head` and entry `end` by `tail` when those are not zero.
+struct SuperSpan {
+  int32_t begin, end;
+  float head, tail;
+};
+
+struct SuperPlan {
+  const SuperSpan* columns;  // over the row accumulator
+  const SuperSpan* rows;     // over the source rows
+  int accumulated;           // pixels of each row that are accumulated
+  bool wholeSums;            // both source steps are whole numbers
+  double scale;              // xFactor x yFactor
+};
+
+struct ResizeTables {
+  ResizeKind kind;
+  ResizeAxis x, y;  // y.count and x.count are the destination size
+  SuperPlan super;
+};
+
+// One interleaved image or one plane.
+struct ResizePlane {
+  const void* src;  // ROI origin
+  ptrdiff_t srcStep;
+  void* dst;
+  ptrdiff_t dstStep;
+  int channels;    // samples per pixel in memory: 1, 3 or 4
+  bool keepAlpha;  // AC4
+};
+
+// Bytes of scratch that one band of rows needs.
+size_t ResizeScratchBytes(const ResizeTables& tables, int channels,
+                          size_t sampleSize);
+
+// Destination rows [y0, y1) of `plane` on the best instruction set.
+template <typename T>
+void ResizeRows(const ResizeTables& tables, const ResizePlane& plane, int y0,
+                int y1, void* scratch);
+
+// Interleaved images have one plane; planar images three or four that share
+// the tables.
+struct ResizeRequest {
+  const void* src[4];  // image origins
+  void* dst[4];
+  int planes;
+  int channels;
+  bool keepAlpha;
+  VokiSize srcSize;
+  int srcStep;
+  VokiRect srcRoi;
+  int dstStep;
+  VokiSize dstSize;
+  // Factors and shifts, or (shiftForm) source steps per destination pixel
+  // and the start positions.
+  bool shiftForm;
+  double x, y, xShift, yShift;
+  int interpolation;
+};
+
+// The core: checks of the pointers, sizes, steps, factors and selector in
+// that order, then the resize.
+template <typename T>
+VokStatus ResizeCore(const ResizeRequest& request);
+
+// The source step of one axis for the given interpolation after clipping.
+double ResizeStep(int interpolation, int roiLength, double factor);
+
+}  // namespace vok

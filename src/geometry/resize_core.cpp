@@ -1,0 +1,325 @@
+// The resize core: checks, interpolation fall-backs, effective destination
+// size, coordinate tables and the split of destination rows into bands.
+// Positions are 64-bit floats built by repeated addition, as the tables of
+// every other axis are, so that a column's position does not depend on how
+// it was reached.
+#include <omp.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+#include "foundation/check.h"
+#include "foundation/memory.h"
+#include "geometry/resize.h"
+
+namespace vok {
+namespace {
+
+constexpr double kEpsilon = 1e-7;
+
+// Truncation toward zero that stays defined for positions far outside any
+// image (the caller's fault, but not a reason for undefined behaviour).
+int32_t TruncIndex(double v) {
+  return static_cast<int32_t>(std::clamp(std::trunc(v), -2e9, 2e9));
+}
+
+// Three-lobe Lanczos kernel at i/100, i = 0..300, with two closing zeros.
+struct LanczosTable {
+  float value[302];
+  LanczosTable() {
+    const double pi = 3.14159265358979323846;
+    value[0] = 1.0f;
+    for (int i = 1; i < 300; ++i) {
+      const double x = i / 100.0;
+      const double sinc = std::sin(pi * x) / (pi * x);
+      const double sinc3 = std::sin(pi * x / 3) / (pi * x / 3);
+      value[i] = static_cast<float>(sinc * sinc3);
+    }
+    value[300] = value[301] = 0.0f;
+  }
+};
+
+// Six tap weights for offsets -2..3 around a node, linearly interpolated in
+// the table and not normalised.
+void LanczosWeights(float t, float* w) {
+  static const LanczosTable table;
+  const float* T = table.value;
+  for (int k = 0; k < 6; ++k) {
+    const float u = std::min(std::fabs(static_cast<float>(k - 2) - t), 3.0f) * 100.0f;
+    const int i = static_cast<int>(u);
+    w[k] = T[i] + (u - static_cast<float>(i)) * (T[i + 1] - T[i]);
+  }
+}
+
+struct AxisSetup {
+  int count;
+  double step, start;
+};
+
+// Step, start and effective destination length of one axis.
+AxisSetup SetupAxis(ResizeKind kind, bool shiftForm, int roiLength,
+                    int dstLength, double scale, double shift) {
+  const bool nearest = kind == ResizeKind::kNearest;
+  AxisSetup a{dstLength, 0, 0};
+  double t;
+  if (shiftForm) {
+    a.step = scale;
+    a.start = nearest ? shift + 0.5 * scale : shift;
+    t = std::trunc((nearest ? roiLength : roiLength - 1) / scale + kEpsilon);
+    if (t < dstLength - 1)
+      a.count = std::max(static_cast<int>(t) + (nearest ? 0 : 1), 1);
+  } else {
+    a.step = ResizeStep(nearest ? vokInterNearest : vokInterLinear, roiLength,
+                        scale);
+    a.start = nearest ? shift + 0.5 * a.step : shift;
+    t = std::trunc(roiLength * scale + kEpsilon);
+    if (t < dstLength) a.count = std::max(static_cast<int>(t), 1);
+  }
+  return a;
+}
+
+// Storage of one axis table, carved from one allocation.
+struct AxisStorage {
+  Scratch<uint8_t> block;
+  ResizeAxis axis;
+};
+
+bool BuildAxis(ResizeKind kind, const AxisSetup& setup, int origin,
+               int imageLength, AxisStorage& out) {
+  const size_t n = setup.count;
+  const bool lanczos = kind == ResizeKind::kLanczos;
+  const size_t bytes = n * (2 * sizeof(int32_t) + sizeof(float)) +
+                       (lanczos ? n * 6 * (sizeof(int32_t) + sizeof(float)) : 0);
+  out.block = AllocateScratch<uint8_t>(bytes);
+  if (!out.block) return false;
+  auto* index = reinterpret_cast<int32_t*>(out.block.get());
+  auto* fixed = index + n;
+  auto* fraction = reinterpret_cast<float*>(fixed + n);
+  auto* taps = reinterpret_cast<int32_t*>(fraction + n);
+  auto* weights = reinterpret_cast<float*>(taps + (lanczos ? 6 * n : 0));
+  out.axis = ResizeAxis{setup.count, index, fraction, fixed,
+                        lanczos ? taps : nullptr, lanczos ? weights : nullptr};
+  const int last = imageLength - 1;
+  double p = setup.start;
+  for (size_t i = 0; i < n; ++i, p += setup.step) {
+    const int32_t r = TruncIndex(p + kEpsilon);
+    const double raw = p - r;
+    index[i] = r;
+    fraction[i] = static_cast<float>(raw);
+    fixed[i] = TruncIndex(raw * kLinearOne + kEpsilon);
+    const int a = r + origin;  // image coordinate
+    switch (kind) {
+      case ResizeKind::kLinear:
+        if (a == last) {  // the last sample blends fully into itself
+          index[i] = r - 1;
+          fraction[i] = 1.0f;
+          fixed[i] = kLinearOne;
+        }
+        break;
+      case ResizeKind::kCubic: {
+        // Four nodes base-1 .. base+2 that always lie inside the image.
+        const int32_t base = a == last ? r - 2 : a == 0 ? r + 1 : a == last - 1 ? r - 1 : r;
+        index[i] = base;
+        fraction[i] = a == last ? 2.0f : static_cast<float>(p - base);
+        break;
+      }
+      case ResizeKind::kLanczos:
+        LanczosWeights(fraction[i], weights + 6 * i);
+        for (int k = 0; k < 6; ++k)
+          taps[6 * i + k] = std::clamp(a + k - 2, 0, last) - origin;
+        break;
+      default:
+        break;
+    }
+  }
+  return true;
+}
+
+// Which entries make each output of supersampling along one axis with
+// source step s. Columns and rows differ only when the weight left over from
+// the previous output is negligible: columns then take the current entry
+// whole, rows skip it. Entries at or past `limit` are never read.
+void BuildSpans(int count, double s, int limit, bool columns, SuperSpan* out) {
+  const double whole = std::floor(s);
+  double frac = s - whole;
+  int32_t x = static_cast<int32_t>(whole);
+  out[0] = SuperSpan{0, x, 0.0f, frac != 0 ? static_cast<float>(frac) : 0.0f};
+  for (int j = 1; j < count; ++j) {
+    const double w0 = 1 - frac;
+    const double n = std::floor(s - w0 + kEpsilon);
+    frac = (s - w0) - n;
+    SuperSpan span{x, x, 0.0f, 0.0f};
+    const int32_t wholeCount = static_cast<int32_t>(n);
+    if (w0 > kEpsilon) {
+      span.head = static_cast<float>(w0);
+      span.begin = x + 1;
+      span.end = x + 1 + wholeCount;
+    } else {
+      span.end = x + wholeCount + (columns ? 1 : 0);
+    }
+    x = span.end;
+    if (frac > kEpsilon) span.tail = static_cast<float>(frac);
+    out[j] = span;
+  }
+  for (int j = 0; j < count; ++j) {
+    SuperSpan& span = out[j];
+    if (span.begin - 1 >= limit) span.head = 0.0f;
+    span.end = std::min(span.end, limit);
+    span.begin = std::min(span.begin, span.end);
+    if (span.end >= limit) span.tail = 0.0f;
+  }
+}
+
+ResizeKind KindOf(int interpolation) {
+  switch (interpolation) {
+    case vokInterLinear: return ResizeKind::kLinear;
+    case vokInterCubic: return ResizeKind::kCubic;
+    case vokInterLanczos: return ResizeKind::kLanczos;
+    case vokInterSuper: return ResizeKind::kSuper;
+    default: return ResizeKind::kNearest;
+  }
+}
+
+// Small images cannot feed wide kernels: the full image decides.
+ResizeKind FallBack(ResizeKind kind, VokiSize image) {
+  const int shortest = std::min(image.width, image.height);
+  if (shortest < 2) return ResizeKind::kNearest;
+  if (shortest < 4 && (kind == ResizeKind::kCubic || kind == ResizeKind::kLanczos))
+    return ResizeKind::kLinear;
+  if (shortest < 6 && kind == ResizeKind::kLanczos) return ResizeKind::kCubic;
+  return kind;
+}
+
+// Runs every plane over bands of destination rows, one band per thread when
+// the image is large enough to pay for the threads. Scratch for all bands
+// is taken before any row is written.
+template <typename T>
+VokStatus RunBands(const ResizeTables& tables, const ResizeRequest& request,
+                   const uint8_t* const* srcOrigins) {
+  const int height = tables.y.count;
+  const int64_t samples = int64_t{tables.x.count} * height * request.channels;
+  const int threads = omp_get_max_threads();
+  const int bands = samples < (1 << 16) || threads < 2
+                        ? 1
+                        : std::max(1, std::min(threads, height / 16));
+  const size_t bytes =
+      (ResizeScratchBytes(tables, request.channels, sizeof(T)) + 63) & ~size_t{63};
+  Scratch<uint8_t> scratch;
+  if (bytes > 0) {
+    scratch = AllocateScratch<uint8_t>(bytes * bands);
+    if (!scratch) return vokStatusNoMemory;
+  }
+  auto band = [&](int b) {
+    const int y0 = int(int64_t{height} * b / bands);
+    const int y1 = int(int64_t{height} * (b + 1) / bands);
+    for (int p = 0; p < request.planes; ++p) {
+      const ResizePlane plane{srcOrigins[p], request.srcStep, request.dst[p],
+                              request.dstStep, request.channels,
+                              request.keepAlpha};
+      ResizeRows<T>(tables, plane, y0, y1, scratch.get() + bytes * b);
+    }
+  };
+  if (bands == 1) {
+    band(0);
+  } else {
+#pragma omp parallel for schedule(static) num_threads(bands)
+    for (int b = 0; b < bands; ++b) band(b);
+  }
+  return vokStatusOk;
+}
+
+}  // namespace
+
+double ResizeStep(int interpolation, int roiLength, double factor) {
+  if (interpolation == vokInterNearest) return 1 / factor;
+  const double length = roiLength * factor;
+  return length > 1 ? (roiLength - 1) / (length - 1) : 0;
+}
+
+size_t ResizeScratchBytes(const ResizeTables& tables, int channels,
+                          size_t sampleSize) {
+  const size_t line = size_t(tables.x.count) * channels;
+  switch (tables.kind) {
+    case ResizeKind::kNearest: return 0;
+    case ResizeKind::kLinear:
+      return 2 * line * (sampleSize == 4 ? sizeof(float) : sizeof(uint16_t));
+    case ResizeKind::kCubic: return 4 * line * sizeof(float);
+    case ResizeKind::kLanczos: return 6 * line * sizeof(float);
+    case ResizeKind::kSuper:
+      return size_t(tables.super.accumulated) * channels * sizeof(float);
+  }
+  return 0;
+}
+
+template <typename T>
+VokStatus ResizeCore(const ResizeRequest& q) {
+  if (AnyNull({q.src[0], q.dst[0]})) return vokStatusNullPointer;
+  if (BadSize(q.srcSize)) return vokStatusBadSize;
+  if (AnyBadStep({q.srcStep, q.dstStep})) return vokStatusBadStep;
+  const VokiRect roi = q.srcRoi;
+  if (roi.x < 0 || roi.y < 0 || BadSize({roi.width, roi.height}))
+    return vokStatusBadSize;
+  if (q.srcSize.width <= roi.x || q.srcSize.height <= roi.y)
+    return vokWarnNoResize;
+  if (BadSize(q.dstSize)) return vokStatusBadSize;
+  if (!(q.x > 0 && q.y > 0)) return vokStatusBadResizeFactor;
+  const bool super = q.interpolation == vokInterSuper && !q.shiftForm &&
+                     q.x <= 1 && q.y <= 1;
+  if (!super && q.interpolation != vokInterNearest &&
+      q.interpolation != vokInterLinear && q.interpolation != vokInterCubic &&
+      q.interpolation != vokInterLanczos)
+    return vokStatusBadInterpolation;
+
+  const int roiW = std::min(roi.width, q.srcSize.width - roi.x);
+  const int roiH = std::min(roi.height, q.srcSize.height - roi.y);
+  const uint8_t* origins[4];
+  for (int p = 0; p < q.planes; ++p)
+    origins[p] = static_cast<const uint8_t*>(q.src[p]) +
+                 ptrdiff_t{roi.y} * q.srcStep +
+                 ptrdiff_t{roi.x} * q.channels * ptrdiff_t{sizeof(T)};
+
+  ResizeTables tables{};
+  if (super) {
+    tables.kind = ResizeKind::kSuper;
+    const AxisSetup ax = SetupAxis(ResizeKind::kSuper, false, roiW,
+                                   q.dstSize.width, q.x, 0);
+    const AxisSetup ay = SetupAxis(ResizeKind::kSuper, false, roiH,
+                                   q.dstSize.height, q.y, 0);
+    const double sx = 1 / q.x, sy = 1 / q.y;
+    const double cols = std::trunc(static_cast<float>(ax.count + 1) * sx) + 1;
+    tables.x.count = ax.count;
+    tables.y.count = ay.count;
+    tables.super.accumulated = cols < roiW ? static_cast<int>(cols) : roiW;
+    tables.super.wholeSums = sx == std::floor(sx) && sy == std::floor(sy);
+    tables.super.scale = q.x * q.y;
+    auto spans = AllocateScratch<SuperSpan>(size_t(ax.count) + ay.count);
+    if (!spans) return vokStatusNoMemory;
+    BuildSpans(ax.count, sx, tables.super.accumulated, true, spans.get());
+    BuildSpans(ay.count, sy, roiH, false, spans.get() + ax.count);
+    tables.super.columns = spans.get();
+    tables.super.rows = spans.get() + ax.count;
+    return RunBands<T>(tables, q, origins);
+  }
+
+  tables.kind = FallBack(KindOf(q.interpolation), q.srcSize);
+  AxisStorage x, y;
+  if (!BuildAxis(tables.kind,
+                 SetupAxis(tables.kind, q.shiftForm, roiW, q.dstSize.width,
+                           q.x, q.xShift),
+                 roi.x, q.srcSize.width, x) ||
+      !BuildAxis(tables.kind,
+                 SetupAxis(tables.kind, q.shiftForm, roiH, q.dstSize.height,
+                           q.y, q.yShift),
+                 roi.y, q.srcSize.height, y))
+    return vokStatusNoMemory;
+  tables.x = x.axis;
+  tables.y = y.axis;
+  return RunBands<T>(tables, q, origins);
+}
+
+template VokStatus ResizeCore<Vok8u>(const ResizeRequest&);
+template VokStatus ResizeCore<Vok16u>(const ResizeRequest&);
+template VokStatus ResizeCore<Vok32f>(const ResizeRequest&);
+
+}  // namespace vok

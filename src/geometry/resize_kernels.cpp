@@ -1,0 +1,526 @@
+// Row kernels of resize, compiled once per instruction set. Horizontal passes
+// walk the column tables one destination pixel at a time; vertical passes
+// blend whole lines with vectors and take the end of a row one sample at a
+// time with the same arithmetic, so every target writes the same bytes.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "geometry/resize_kernels.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+
+#include <algorithm>
+#include <climits>
+#include <cmath>
+#include <cstring>
+#include <type_traits>
+
+#include "foundation/image.h"
+#include "foundation/rows-inl.h"
+#include "geometry/resize.h"
+#include "hwy/highway.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace vok {
+namespace HWY_NAMESPACE {
+namespace {
+
+constexpr double kEpsilon = 1e-7;
+
+template <typename T>
+constexpr float kMaxOf = std::is_same_v<T, float> ? 0.0f : float(std::numeric_limits<T>::max());
+
+template <typename T>
+const T* SrcRow(const ResizePlane& p, int32_t row) {
+  return RowAt(static_cast<const T*>(p.src), p.srcStep, row);
+}
+template <typename T>
+T* DstRow(const ResizePlane& p, int y) {
+  return RowAt(static_cast<T*>(p.dst), p.dstStep, y);
+}
+
+// Writes n samples of a destination row: whole vectors from vec(i), the rest
+// from one(i). AC4 alpha keeps its value.
+template <class D, typename T, class Vec, class One>
+HWY_INLINE void WriteRow(D d, T* out, size_t n, bool keepAlpha, const Vec& vec,
+                         const One& one) {
+  const size_t lanes = hn::Lanes(d);
+  size_t i = 0;
+  if (keepAlpha) {
+    const auto alpha = AlphaLanes(d);
+    for (; i + lanes <= n; i += lanes)
+      hn::StoreU(hn::IfThenElse(alpha, hn::LoadU(d, out + i), vec(i)), d, out + i);
+  } else {
+    for (; i + lanes <= n; i += lanes) hn::StoreU(vec(i), d, out + i);
+  }
+  for (; i < n; ++i)
+    if (!keepAlpha || (i & 3) != 3) out[i] = one(i);
+}
+
+// Lanes of a float vector rounded and saturated to an integer sample type,
+// or left as they are for float samples.
+template <typename T, class VF>
+HWY_INLINE auto FloatToSample(VF v) {
+  const hn::ScalableTag<float> df;
+  if constexpr (std::is_same_v<T, float>) {
+    return v;
+  } else {
+    const hn::ScalableTag<int32_t> di;
+    const auto clamped = hn::Min(hn::Max(hn::Round(v), hn::Zero(df)),
+                                 hn::Set(df, kMaxOf<T>));
+    return SaturatingNarrow(hn::Rebind<T, decltype(di)>(), hn::ConvertTo(di, clamped));
+  }
+}
+
+// ---- Line cache ------------------------------------------------------------
+
+// K lines tagged with the source row they hold. A destination row asks for K
+// rows; rows already held are reused, the others computed into free slots,
+// so sliding windows cost one line per new source row.
+template <typename L, int K>
+class LineCache {
+ public:
+  LineCache(L* block, size_t lineSamples) {
+    for (int k = 0; k < K; ++k) {
+      slot_[k] = block + k * lineSamples;
+      tag_[k] = INT32_MIN;
+    }
+  }
+
+  template <class Fill>
+  void Fetch(const int32_t* rows, const L** lines, const Fill& fill) {
+    bool used[K] = {};
+    int slotOf[K];
+    for (int k = 0; k < K; ++k) {
+      slotOf[k] = -1;
+      for (int s = 0; s < K; ++s)
+        if (tag_[s] == rows[k]) {
+          slotOf[k] = s;
+          used[s] = true;
+        }
+    }
+    for (int k = 0; k < K; ++k) {
+      for (int j = 0; j < k && slotOf[k] < 0; ++j)
+        if (rows[j] == rows[k]) slotOf[k] = slotOf[j];
+      if (slotOf[k] < 0) {
+        int s = 0;
+        while (used[s]) ++s;
+        used[s] = true;
+        tag_[s] = rows[k];
+        fill(rows[k], slot_[s]);
+        slotOf[k] = s;
+      }
+      lines[k] = slot_[slotOf[k]];
+    }
+  }
+
+ private:
+  L* slot_[K];
+  int32_t tag_[K];
+};
+
+// ---- Nearest ---------------------------------------------------------------
+
+// kCopied samples of each S-sample pixel; AC4 copies three of four.
+template <typename T, int S, int kCopied>
+void NearestRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1) {
+  const size_t rowBytes = size_t(t.x.count) * S * sizeof(T);
+  for (int y = y0; y < y1; ++y) {
+    T* out = DstRow<T>(p, y);
+    if (kCopied == S && y > y0 && t.y.index[y] == t.y.index[y - 1]) {
+      std::memcpy(out, DstRow<T>(p, y - 1), rowBytes);
+      continue;
+    }
+    const T* s = SrcRow<T>(p, t.y.index[y]);
+    for (int j = 0; j < t.x.count; ++j) {
+      const T* from = s + ptrdiff_t{t.x.index[j]} * S;
+      for (int c = 0; c < kCopied; ++c) out[j * S + c] = from[c];
+    }
+  }
+}
+
+// ---- Linear ----------------------------------------------------------------
+
+// 8u lines keep six fraction bits; 16u lines keep the full range.
+template <typename T>
+constexpr int kLinearShift = sizeof(T) == 1 ? 8 : 14;
+template <typename T>
+constexpr int kLinearOutShift = sizeof(T) == 1 ? 20 : 14;
+
+template <int S, typename T, typename L>
+void LinearLine(const T* s, const ResizeAxis& x, L* line) {
+  for (int j = 0; j < x.count; ++j) {
+    const T* p = s + ptrdiff_t{x.index[j]} * S;
+    L* out = line + j * S;
+    if constexpr (std::is_same_v<T, float>) {
+      const float f = x.fraction[j];
+      for (int c = 0; c < S; ++c) out[c] = p[c] + (p[S + c] - p[c]) * f;
+    } else {
+      constexpr int shift = kLinearShift<T>;
+      const int32_t f = x.fixed[j], f0 = kLinearOne - f;
+      for (int c = 0; c < S; ++c)
+        out[c] = static_cast<L>((p[c] * f0 + p[S + c] * f + (1 << (shift - 1))) >> shift);
+    }
+  }
+}
+
+template <typename T, typename L>
+void LinearColumn(const L* h0, const L* h1, const ResizeAxis& y, int row,
+                  T* out, size_t n, bool keepAlpha) {
+  const hn::ScalableTag<float> df;
+  const hn::Rebind<T, decltype(df)> dt;
+  if constexpr (std::is_same_v<T, float>) {
+    const float g = y.fraction[row], g0 = 1.0f - g;
+    const auto vg = hn::Set(df, g), vg0 = hn::Set(df, g0);
+    WriteRow(dt, out, n, keepAlpha,
+             [&](size_t i) {
+               return hn::Add(hn::Mul(hn::LoadU(df, h0 + i), vg0),
+                              hn::Mul(hn::LoadU(df, h1 + i), vg));
+             },
+             [&](size_t i) { return h0[i] * g0 + h1[i] * g; });
+  } else {
+    constexpr int shift = kLinearOutShift<T>;
+    constexpr int32_t half = 1 << (shift - 1);
+    const int32_t g = y.fixed[row], g0 = kLinearOne - g;
+    const hn::ScalableTag<int32_t> di;
+    const hn::Rebind<uint16_t, decltype(di)> dl;
+    const auto vg = hn::Set(di, g), vg0 = hn::Set(di, g0), vhalf = hn::Set(di, half);
+    WriteRow(dt, out, n, keepAlpha,
+             [&](size_t i) {
+               const auto a = hn::PromoteTo(di, hn::LoadU(dl, h0 + i));
+               const auto b = hn::PromoteTo(di, hn::LoadU(dl, h1 + i));
+               const auto sum = hn::Add(hn::Add(hn::Mul(a, vg0), hn::Mul(b, vg)), vhalf);
+               return SaturatingNarrow(dt, hn::ShiftRight<shift>(sum));
+             },
+             [&](size_t i) {
+               const int32_t v = (h0[i] * g0 + h1[i] * g + half) >> shift;
+               return static_cast<T>(std::clamp<int32_t>(v, 0, int32_t(kMaxOf<T>)));
+             });
+  }
+}
+
+// ---- Cubic -----------------------------------------------------------------
+
+// The cubic through a, b, c, d at -1, 0, 1, 2 in Newton form. The vertical
+// pass's vector group divides by 3 as a multiplication by the float 1/3.
+template <bool kTrueThird>
+inline float Cubic(float a, float b, float c, float d, float t) {
+  const float d1 = b - a;
+  const float d2 = (c - b) - d1;
+  const float d3 = ((b - 2.0f * c) + d) - d2;
+  const float m = t * (1.0f + t) * 0.5f;
+  const float n = kTrueThird ? (t - 1.0f) * m / 3.0f : (t - 1.0f) * m * (1.0f / 3.0f);
+  return ((a + n * d3) + m * d2) + (1.0f + t) * d1;
+}
+
+template <class V, class D>
+HWY_INLINE V CubicV(D d, V a, V b, V c, V e, V t) {
+  const V one = hn::Set(d, 1.0f);
+  const V d1 = hn::Sub(b, a);
+  const V d2 = hn::Sub(hn::Sub(c, b), d1);
+  const V d3 = hn::Sub(hn::Add(hn::Sub(b, hn::Mul(hn::Set(d, 2.0f), c)), e), d2);
+  const V onePlusT = hn::Add(one, t);
+  const V m = hn::Mul(hn::Mul(t, onePlusT), hn::Set(d, 0.5f));
+  const V n = hn::Mul(hn::Mul(hn::Sub(t, one), m), hn::Set(d, 1.0f / 3.0f));
+  return hn::Add(hn::Add(hn::Add(a, hn::Mul(n, d3)), hn::Mul(m, d2)),
+                 hn::Mul(onePlusT, d1));
+}
+
+template <int S, typename T>
+void CubicLine(const T* s, const ResizeAxis& x, float* line) {
+  for (int j = 0; j < x.count; ++j) {
+    const T* p = s + ptrdiff_t{x.index[j] - 1} * S;
+    const float t = x.fraction[j];
+    for (int c = 0; c < S; ++c)
+      line[j * S + c] = Cubic<true>(float(p[c]), float(p[S + c]),
+                                    float(p[2 * S + c]), float(p[3 * S + c]), t);
+  }
+}
+
+// Integer results: the run of samples rounded down to a multiple of four
+// converts with a nudge of 1e-5 and ties to even; the last n mod 4 samples
+// of the run truncate instead, and divide by 3 exactly.
+template <int S, typename T>
+void CubicColumn(const float* const* l, const ResizeAxis& y, int row, T* out,
+                 size_t n, bool keepAlpha) {
+  const hn::ScalableTag<float> df;
+  const hn::Rebind<T, decltype(df)> dt;
+  const float t = y.fraction[row];
+  const float nudge = std::is_same_v<T, float> ? 0.0f : 1e-5f;
+  const auto vt = hn::Set(df, t), vnudge = hn::Set(df, nudge);
+  auto vectorGroup = [&](float v) -> T {
+    if constexpr (std::is_same_v<T, float>) {
+      return v;
+    } else {
+      return static_cast<T>(std::clamp(std::nearbyint(v + nudge), 0.0f, kMaxOf<T>));
+    }
+  };
+  WriteRow(dt, out, n, keepAlpha,
+           [&](size_t i) {
+             const auto v = CubicV(df, hn::LoadU(df, l[0] + i), hn::LoadU(df, l[1] + i),
+                                   hn::LoadU(df, l[2] + i), hn::LoadU(df, l[3] + i), vt);
+             if constexpr (std::is_same_v<T, float>) return v;
+             else return FloatToSample<T>(hn::Add(v, vnudge));
+           },
+           [&](size_t i) {
+             return vectorGroup(Cubic<false>(l[0][i], l[1][i], l[2][i], l[3][i], t));
+           });
+  const size_t run = keepAlpha ? n / 4 * 3 : n;
+  for (size_t r = run & ~size_t{3}; r < run; ++r) {
+    const size_t i = keepAlpha ? r / 3 * 4 + r % 3 : r;
+    const float v = Cubic<true>(l[0][i], l[1][i], l[2][i], l[3][i], t);
+    if constexpr (std::is_same_v<T, float>) {
+      out[i] = v;
+    } else {
+      const double truncated = std::trunc(double(v) + kEpsilon);
+      out[i] = static_cast<T>(std::clamp(truncated, 0.0, double(kMaxOf<T>)));
+    }
+  }
+}
+
+// ---- Lanczos ---------------------------------------------------------------
+
+// Six taps in order, columns already clamped to the image.
+template <int S, typename T>
+void LanczosLine(const T* s, const ResizeAxis& x, float* line) {
+  for (int j = 0; j < x.count; ++j) {
+    const int32_t* tap = x.taps + 6 * j;
+    const float* w = x.weights + 6 * j;
+    for (int c = 0; c < S; ++c) {
+      float sum = w[0] * float(s[ptrdiff_t{tap[0]} * S + c]);
+      for (int k = 1; k < 6; ++k) sum = sum + w[k] * float(s[ptrdiff_t{tap[k]} * S + c]);
+      line[j * S + c] = sum;
+    }
+  }
+}
+
+// Integer results sum in double and truncate; float results sum in float.
+template <typename T>
+void LanczosColumn(const float* const* l, const ResizeAxis& y, int row, T* out,
+                   size_t n, bool keepAlpha) {
+  const hn::ScalableTag<float> df;
+  const hn::Rebind<T, decltype(df)> dt;
+  const float* w = y.weights + 6 * row;
+  if constexpr (std::is_same_v<T, float>) {
+    WriteRow(dt, out, n, keepAlpha,
+             [&](size_t i) {
+               auto sum = hn::Mul(hn::LoadU(df, l[0] + i), hn::Set(df, w[0]));
+               for (int k = 1; k < 6; ++k)
+                 sum = hn::Add(sum, hn::Mul(hn::LoadU(df, l[k] + i), hn::Set(df, w[k])));
+               return sum;
+             },
+             [&](size_t i) {
+               float sum = l[0][i] * w[0];
+               for (int k = 1; k < 6; ++k) sum = sum + l[k][i] * w[k];
+               return sum;
+             });
+  } else {
+    const hn::ScalableTag<double> dd;
+    const hn::Rebind<float, decltype(dd)> dfHalf;
+    const hn::Rebind<int32_t, decltype(dd)> diHalf;
+    const hn::ScalableTag<int32_t> di;
+    const size_t half = hn::Lanes(dd);
+    auto sumAt = [&](size_t i) {
+      auto sum = hn::Mul(hn::PromoteTo(dd, hn::LoadU(dfHalf, l[0] + i)), hn::Set(dd, double(w[0])));
+      for (int k = 1; k < 6; ++k)
+        sum = hn::Add(sum, hn::Mul(hn::PromoteTo(dd, hn::LoadU(dfHalf, l[k] + i)),
+                                   hn::Set(dd, double(w[k]))));
+      const auto v = hn::Add(sum, hn::Set(dd, kEpsilon));
+      return hn::DemoteTo(diHalf, hn::Min(hn::Max(v, hn::Zero(dd)),
+                                          hn::Set(dd, double(kMaxOf<T>))));
+    };
+    WriteRow(dt, out, n, keepAlpha,
+             [&](size_t i) {
+               return SaturatingNarrow(dt, hn::Combine(di, sumAt(i + half), sumAt(i)));
+             },
+             [&](size_t i) {
+               double sum = double(l[0][i]) * double(w[0]);
+               for (int k = 1; k < 6; ++k) sum = sum + double(l[k][i]) * double(w[k]);
+               return static_cast<T>(std::clamp(std::trunc(sum + kEpsilon), 0.0, double(kMaxOf<T>)));
+             });
+  }
+}
+
+// ---- Two-pass driver ---------------------------------------------------------
+
+template <typename T, ResizeKind kKind>
+using LineOf = std::conditional_t<kKind == ResizeKind::kLinear && !std::is_same_v<T, float>,
+                                  uint16_t, float>;
+template <ResizeKind kKind>
+constexpr int kLinesOf = kKind == ResizeKind::kLinear ? 2 : kKind == ResizeKind::kCubic ? 4 : 6;
+
+template <typename T, int S, ResizeKind kKind>
+void InterpolatedRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1,
+                      void* scratch) {
+  using L = LineOf<T, kKind>;
+  constexpr int K = kLinesOf<kKind>;
+  const size_t n = size_t(t.x.count) * S;
+  LineCache<L, K> cache(static_cast<L*>(scratch), n);
+  auto fill = [&](int32_t row, L* line) {
+    const T* s = SrcRow<T>(p, row);
+    if constexpr (kKind == ResizeKind::kLinear) LinearLine<S>(s, t.x, line);
+    else if constexpr (kKind == ResizeKind::kCubic) CubicLine<S>(s, t.x, line);
+    else LanczosLine<S>(s, t.x, line);
+  };
+  for (int y = y0; y < y1; ++y) {
+    int32_t rows[K];
+    if constexpr (kKind == ResizeKind::kLanczos) {
+      std::memcpy(rows, t.y.taps + 6 * y, sizeof(rows));
+    } else {
+      const int32_t first = t.y.index[y] - (kKind == ResizeKind::kCubic ? 1 : 0);
+      for (int k = 0; k < K; ++k) rows[k] = first + k;
+    }
+    const L* lines[K];
+    cache.Fetch(rows, lines, fill);
+    T* out = DstRow<T>(p, y);
+    if constexpr (kKind == ResizeKind::kLinear) LinearColumn(lines[0], lines[1], t.y, y, out, n, p.keepAlpha);
+    else if constexpr (kKind == ResizeKind::kCubic) CubicColumn<S>(lines, t.y, y, out, n, p.keepAlpha);
+    else LanczosColumn(lines, t.y, y, out, n, p.keepAlpha);
+  }
+}
+
+// ---- Supersampling -----------------------------------------------------------
+
+// acc += weight x row over n samples; a weight of 1 adds the row as it is.
+// Whole-number steps accumulate integer samples exactly in 32 bits.
+template <typename Acc, typename T>
+void AccumulateRow(Acc* acc, const T* row, size_t n, float weight) {
+  const hn::ScalableTag<Acc> da;
+  const size_t lanes = hn::Lanes(da);
+  size_t i = 0;
+  if constexpr (std::is_same_v<Acc, uint32_t>) {
+    const hn::Rebind<T, decltype(da)> dt;
+    for (; i + lanes <= n; i += lanes)
+      hn::StoreU(hn::Add(hn::LoadU(da, acc + i), hn::PromoteTo(da, hn::LoadU(dt, row + i))), da, acc + i);
+    for (; i < n; ++i) acc[i] += row[i];
+  } else {
+    auto load = [&](size_t at) {
+      if constexpr (std::is_same_v<T, float>) {
+        return hn::LoadU(da, row + at);
+      } else {
+        const hn::ScalableTag<int32_t> di;
+        return hn::ConvertTo(da, hn::PromoteTo(di, hn::LoadU(hn::Rebind<T, decltype(di)>(), row + at)));
+      }
+    };
+    if (weight == 1.0f) {
+      for (; i + lanes <= n; i += lanes)
+        hn::StoreU(hn::Add(hn::LoadU(da, acc + i), load(i)), da, acc + i);
+      for (; i < n; ++i) acc[i] = acc[i] + float(row[i]);
+    } else {
+      const auto vw = hn::Set(da, weight);
+      for (; i + lanes <= n; i += lanes)
+        hn::StoreU(hn::Add(hn::LoadU(da, acc + i), hn::Mul(vw, load(i))), da, acc + i);
+      for (; i < n; ++i) acc[i] = acc[i] + weight * float(row[i]);
+    }
+  }
+}
+
+// Sums start from -0 so that the first term passes through unchanged.
+template <typename Acc>
+constexpr Acc kEmptySum = std::is_same_v<Acc, float> ? Acc(-0.0f) : Acc(0);
+
+template <typename Acc>
+inline Acc Weighted(Acc v, float w) {
+  if constexpr (std::is_same_v<Acc, float>) return v * w;
+  else return v;  // whole-number steps only ever weigh by 1
+}
+
+template <typename T, int S, typename Acc>
+void SuperRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1, Acc* acc) {
+  const SuperPlan& plan = t.super;
+  const size_t n = size_t(plan.accumulated) * S;
+  const int copied = p.keepAlpha ? 3 : S;
+  for (int y = y0; y < y1; ++y) {
+    const SuperSpan rows = plan.rows[y];
+    std::fill(acc, acc + n, kEmptySum<Acc>);
+    if (rows.head != 0) AccumulateRow(acc, SrcRow<T>(p, rows.begin - 1), n, rows.head);
+    for (int32_t r = rows.begin; r < rows.end; ++r) AccumulateRow(acc, SrcRow<T>(p, r), n, 1.0f);
+    if (rows.tail != 0) AccumulateRow(acc, SrcRow<T>(p, rows.end), n, rows.tail);
+    T* out = DstRow<T>(p, y);
+    for (int j = 0; j < t.x.count; ++j) {
+      const SuperSpan cols = plan.columns[j];
+      for (int c = 0; c < copied; ++c) {
+        Acc sum = kEmptySum<Acc>;
+        if (cols.head != 0) sum = sum + Weighted(acc[(cols.begin - 1) * S + c], cols.head);
+        for (int32_t e = cols.begin; e < cols.end; ++e) sum = sum + acc[e * S + c];
+        if (cols.tail != 0) sum = sum + Weighted(acc[cols.end * S + c], cols.tail);
+        const double scaled = double(sum) * plan.scale;
+        if constexpr (std::is_same_v<T, float>) {
+          out[j * S + c] = static_cast<float>(scaled);
+        } else {
+          out[j * S + c] = static_cast<T>(std::clamp(std::trunc(scaled + 0.5), 0.0, double(kMaxOf<T>)));
+        }
+      }
+    }
+  }
+}
+
+// ---- Dispatch ------------------------------------------------------------------
+
+template <typename T, int S>
+void RowsOf(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* scratch) {
+  switch (t.kind) {
+    case ResizeKind::kNearest:
+      if constexpr (S == 4) {
+        if (p.keepAlpha) return NearestRows<T, 4, 3>(t, p, y0, y1);
+      }
+      return NearestRows<T, S, S>(t, p, y0, y1);
+    case ResizeKind::kLinear:
+      return InterpolatedRows<T, S, ResizeKind::kLinear>(t, p, y0, y1, scratch);
+    case ResizeKind::kCubic:
+      return InterpolatedRows<T, S, ResizeKind::kCubic>(t, p, y0, y1, scratch);
+    case ResizeKind::kLanczos:
+      return InterpolatedRows<T, S, ResizeKind::kLanczos>(t, p, y0, y1, scratch);
+    case ResizeKind::kSuper:
+      if constexpr (!std::is_same_v<T, float>) {
+        if (t.super.wholeSums)
+          return SuperRows<T, S>(t, p, y0, y1, static_cast<uint32_t*>(scratch));
+      }
+      return SuperRows<T, S>(t, p, y0, y1, static_cast<float*>(scratch));
+  }
+}
+
+template <typename T>
+void Rows(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* scratch) {
+  switch (p.channels) {
+    case 1: return RowsOf<T, 1>(t, p, y0, y1, scratch);
+    case 3: return RowsOf<T, 3>(t, p, y0, y1, scratch);
+    default: return RowsOf<T, 4>(t, p, y0, y1, scratch);
+  }
+}
+
+}  // namespace
+
+void ResizeRows8u(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* scratch) {
+  Rows<uint8_t>(t, p, y0, y1, scratch);
+}
+void ResizeRows16u(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* scratch) {
+  Rows<uint16_t>(t, p, y0, y1, scratch);
+}
+void ResizeRows32f(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* scratch) {
+  Rows<float>(t, p, y0, y1, scratch);
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace vok
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace vok {
+
+HWY_EXPORT(ResizeRows8u);
+HWY_EXPORT(ResizeRows16u);
+HWY_EXPORT(ResizeRows32f);
+
+template <>
+void ResizeRows<Vok8u>(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* scratch) {
+  HWY_DYNAMIC_DISPATCH(ResizeRows8u)(t, p, y0, y1, scratch);
+}
+template <>
+void ResizeRows<Vok16u>(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* scratch) {
+  HWY_DYNAMIC_DISPATCH(ResizeRows16u)(t, p, y0, y1, scratch);
+}
+template <>
+void ResizeRows<Vok32f>(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* scratch) {
+  HWY_DYNAMIC_DISPATCH(ResizeRows32f)(t, p, y0, y1, scratch);
+}
+
+}  // namespace vok
+#endif  // HWY_ONCE
