@@ -719,6 +719,108 @@ VOK_API VokStatus vokiResizeCenter_32f_P4R(const Vok32f* const src[4], VokiSize 
 /* The source steps that ResizeShift needs to match Resize with these factors. */
 VOK_API VokStatus vokiGetResizeFract(VokiSize srcSize, VokiRect srcRoi, double xFactor, double yFactor, double* xFr, double* yFr, int interpolation);
 
+/* ---- Copy: samples moved bit for bit between images and layouts ---------
+ * Channel forms (C3CR, C4CR, C3C1R, C4C1R, C1C3R, C1C4R) take pointers to
+ * the chosen channel of the first pixel and leave the destination's other
+ * channels as they were. Mask forms copy the pixels whose mask byte (one per
+ * pixel, whatever the layout) is non-zero. AC4 destinations keep their
+ * alpha. Planar forms take one step for all planes. */
+VOK_API VokStatus vokiCopy_8u_C1R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_C4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_C1MR(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_8u_C3MR(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_8u_C4MR(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_8u_AC4MR(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_8u_C3CR(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_C4CR(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_C3C1R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_C4C1R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_C1C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_C1C4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_C3AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_AC4C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_C3P3R(const Vok8u* src, int srcStep, Vok8u* const dst[3], int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_C4P4R(const Vok8u* src, int srcStep, Vok8u* const dst[4], int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_P3C3R(const Vok8u* const src[3], int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_8u_P4C4R(const Vok8u* const src[4], int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C1R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_AC4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C1MR(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_16s_C3MR(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_16s_C4MR(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_16s_AC4MR(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_16s_C3CR(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C4CR(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C3C1R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C4C1R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C1C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C1C4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C3AC4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_AC4C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C3P3R(const Vok16s* src, int srcStep, Vok16s* const dst[3], int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_C4P4R(const Vok16s* src, int srcStep, Vok16s* const dst[4], int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_P3C3R(const Vok16s* const src[3], int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_16s_P4C4R(const Vok16s* const src[4], int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C1R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_AC4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C1MR(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_32f_C3MR(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_32f_C4MR(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_32f_AC4MR(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiCopy_32f_C3CR(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C4CR(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C3C1R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C4C1R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C1C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C1C4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C3AC4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_AC4C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C3P3R(const Vok32f* src, int srcStep, Vok32f* const dst[3], int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_C4P4R(const Vok32f* src, int srcStep, Vok32f* const dst[4], int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_P3C3R(const Vok32f* const src[3], int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCopy_32f_P4C4R(const Vok32f* const src[4], int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+
+/* ---- Set: fill with a constant ------------------------------------------
+ * The value comes first. C3, C4 and AC4 forms take one value per written
+ * channel; channel forms (C3CR, C4CR) point at the chosen channel and write
+ * only it. Mask forms fill the pixels whose mask byte is non-zero. */
+VOK_API VokStatus vokiSet_8u_C1R(Vok8u value, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_8u_C3R(const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_8u_C4R(const Vok8u value[4], Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_8u_AC4R(const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_8u_C3CR(Vok8u value, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_8u_C4CR(Vok8u value, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_8u_C1MR(Vok8u value, Vok8u* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiSet_8u_C3MR(const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiSet_8u_C4MR(const Vok8u value[4], Vok8u* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiSet_8u_AC4MR(const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiSet_16s_C1R(Vok16s value, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_16s_C3R(const Vok16s value[3], Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_16s_C4R(const Vok16s value[4], Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_16s_AC4R(const Vok16s value[3], Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_16s_C3CR(Vok16s value, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_16s_C4CR(Vok16s value, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_16s_C1MR(Vok16s value, Vok16s* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiSet_16s_C3MR(const Vok16s value[3], Vok16s* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiSet_16s_C4MR(const Vok16s value[4], Vok16s* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiSet_16s_AC4MR(const Vok16s value[3], Vok16s* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiSet_32f_C1R(Vok32f value, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_32f_C3R(const Vok32f value[3], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_32f_C4R(const Vok32f value[4], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_32f_AC4R(const Vok32f value[3], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_32f_C3CR(Vok32f value, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_32f_C4CR(Vok32f value, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSet_32f_C1MR(Vok32f value, Vok32f* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiSet_32f_C3MR(const Vok32f value[3], Vok32f* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiSet_32f_C4MR(const Vok32f value[4], Vok32f* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+VOK_API VokStatus vokiSet_32f_AC4MR(const Vok32f value[3], Vok32f* dst, int dstStep, VokiSize roi, const Vok8u* mask, int maskStep);
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif

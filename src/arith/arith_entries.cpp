@@ -1,9 +1,11 @@
 // Exported entries of Add, Sub, Mul, their constant forms and the full-scale
 // multiplies: argument checks in each family's order, then one row job.
 #include <cstdint>
+#include <type_traits>
 #include <utility>
 
 #include "arith/arith.h"
+#include "data/copy.h"
 #include "foundation/check.h"
 #include "vok.h"
 
@@ -16,6 +18,62 @@ ElementRows MakeRows(const void* a, int aStep, const void* b, int bStep,
   return ElementRows{a,   aStep,   b,      bStep,
                      constant, dst, dstStep, static_cast<size_t>(rowSamples),
                      height, layout};
+}
+
+enum class Shape { kTwoImages, kTwoImagesInPlace, kConstantInPlace };
+
+// The C1 forms whose rounding paths share rows among threads: height plus
+// width from which they do, for scale factors of 2 and up (to the zeroing
+// limit) and for 1. 0 keeps that path serial, as are all forms not listed.
+struct Cutover {
+  ArithOp op;
+  Shape shape;
+  bool is8u;  // else 16s
+  int fromScale2, fromScale1;
+};
+constexpr Cutover kCutovers[] = {
+    {ArithOp::kAdd, Shape::kTwoImagesInPlace, true, 256, 0},
+    {ArithOp::kAdd, Shape::kTwoImages, false, 256, 0},
+    {ArithOp::kAdd, Shape::kConstantInPlace, true, 256, 256},
+    {ArithOp::kAdd, Shape::kConstantInPlace, false, 0, 256},
+    {ArithOp::kSub, Shape::kTwoImagesInPlace, true, 256, 0},
+    {ArithOp::kSub, Shape::kTwoImages, false, 256, 0},
+    {ArithOp::kSub, Shape::kTwoImagesInPlace, false, 128, 256},
+    {ArithOp::kSub, Shape::kConstantInPlace, true, 256, 256},
+    {ArithOp::kSub, Shape::kConstantInPlace, false, 0, 256},
+    {ArithOp::kMul, Shape::kTwoImages, true, 256, 128},
+    {ArithOp::kMul, Shape::kTwoImagesInPlace, true, 256, 256},
+    {ArithOp::kMul, Shape::kTwoImages, false, 128, 128},
+    {ArithOp::kMul, Shape::kTwoImagesInPlace, false, 0, 256},
+    {ArithOp::kMul, Shape::kConstantInPlace, true, 128, 0},
+    {ArithOp::kMul, Shape::kConstantInPlace, false, 256, 256},
+};
+
+template <typename T>
+int ParallelFrom(ArithOp op, Shape shape, int scale) {
+  if constexpr (std::is_same_v<T, Vok8u> || std::is_same_v<T, Vok16s>) {
+    if (scale < 1) return 0;
+    for (const Cutover& c : kCutovers)
+      if (c.op == op && c.shape == shape && c.is8u == std::is_same_v<T, Vok8u>)
+        return scale == 1 ? c.fromScale1 : c.fromScale2;
+  }
+  return 0;
+}
+
+// Scale factors above the limit give zero everywhere: the image is set to
+// zero, AC4 alpha staying.
+template <ArithOp kOp, typename T>
+bool ZeroesAll(int scale) {
+  return std::is_integral_v<T> && kOp != ArithOp::kMulScale &&
+         scale > LimitsOf<T>(kOp).zeroAbove;
+}
+
+template <typename T>
+void SetZero(T* dst, int dstStep, VokiSize roi, Layout layout) {
+  RunSet(SetJob{layout.keepAlpha ? SetKind::kAlpha : SetKind::kWhole,
+                layout.channels, layout.keepAlpha, {}, dst, dstStep, nullptr,
+                0, roi.width, roi.height},
+         sizeof(T));
 }
 
 // The full-scale multiplies test steps before the size; the others the size
@@ -33,7 +91,7 @@ bool BadSizeBeforeForwarding(ArithOp op, VokiSize roi) {
 }
 
 // a op b, where Sub's minuend is the second source.
-template <ArithOp kOp, typename T, Layout kLayout>
+template <ArithOp kOp, typename T, Layout kLayout, Shape kShape>
 VokStatus TwoImages(const T* src1, int src1Step, const T* src2, int src2Step,
                     T* dst, int dstStep, VokiSize roi, int scale) {
   Layout layout = kLayout;
@@ -44,32 +102,47 @@ VokStatus TwoImages(const T* src1, int src1Step, const T* src2, int src2Step,
   const VokStatus status = CheckArgs(kOp, {src1, src2, dst}, roi,
                                      {src1Step, src2Step, dstStep});
   if (status != vokStatusOk) return status;
+  if (ZeroesAll<kOp, T>(scale)) {
+    SetZero(dst, dstStep, roi, kLayout);
+    return vokStatusOk;
+  }
   if (kOp == ArithOp::kSub) {
     std::swap(src1, src2);
     std::swap(src1Step, src2Step);
   }
+  const int parallelFrom =
+      layout.channels == 1 ? ParallelFrom<T>(kOp, kShape, scale) : 0;
   RunArith<T>(ArithJob{
       MakeRows(src1, src1Step, src2, src2Step, nullptr, dst, dstStep,
                int64_t{roi.width} * kLayout.channels, roi.height, layout),
-      kOp, scale});
+      kOp, scale, parallelFrom});
   return vokStatusOk;
 }
 
 // source op constant, one constant per channel. AC4 constants have three
 // components; the fourth lane's value is never stored.
-template <ArithOp kOp, typename T, Layout kLayout>
+template <ArithOp kOp, typename T, Layout kLayout, bool kInPlace>
 VokStatus ImageConstant(const T* src, int srcStep, const T* values, T* dst,
                         int dstStep, VokiSize roi, int scale) {
   const VokStatus status =
       CheckArgs(kOp, {src, values, dst}, roi, {srcStep, dstStep});
   if (status != vokStatusOk) return status;
+  if (ZeroesAll<kOp, T>(scale)) {
+    SetZero(dst, dstStep, roi, kLayout);
+    return vokStatusOk;
+  }
+  // Only the in-place C1 forms have regions; the others run serially.
+  const int parallelFrom =
+      kInPlace && kLayout.channels == 1
+          ? ParallelFrom<T>(kOp, Shape::kConstantInPlace, scale)
+          : 0;
   T constant[4] = {};
   for (int c = 0; c < (kLayout.keepAlpha ? 3 : kLayout.channels); ++c)
     constant[c] = values[c];
   RunArith<T>(ArithJob{
       MakeRows(src, srcStep, nullptr, 0, constant, dst, dstStep,
                int64_t{roi.width} * kLayout.channels, roi.height, kLayout),
-      kOp, scale});
+      kOp, scale, parallelFrom});
   return vokStatusOk;
 }
 
@@ -115,14 +188,16 @@ VokStatus ImageConstant(const T* src, int srcStep, const T* values, T* dst,
   VokStatus voki##family##_##token##_##layout##R##sfs(                        \
       const T* src1, int src1Step, const T* src2, int src2Step, T* dst,       \
       int dstStep, VokiSize roi VOK_SCALE_PARAM_##sfs) {                      \
-    return vok::TwoImages<vok::ArithOp::op, T, vok::kLayout>(                 \
+    return vok::TwoImages<vok::ArithOp::op, T, vok::kLayout,                  \
+                          vok::Shape::kTwoImages>(                            \
         src1, src1Step, src2, src2Step, dst, dstStep, roi,                    \
         VOK_SCALE_ARG_##sfs);                                                 \
   }                                                                           \
   VokStatus voki##family##_##token##_##layout##IR##sfs(                       \
       const T* src, int srcStep, T* srcDst, int srcDstStep,                   \
       VokiSize roi VOK_SCALE_PARAM_##sfs) {                                   \
-    return vok::TwoImages<vok::ArithOp::op, T, vok::kLayout>(                 \
+    return vok::TwoImages<vok::ArithOp::op, T, vok::kLayout,                  \
+                          vok::Shape::kTwoImagesInPlace>(                     \
         src, srcStep, srcDst, srcDstStep, srcDst, srcDstStep, roi,            \
         VOK_SCALE_ARG_##sfs);                                                 \
   }
@@ -133,13 +208,13 @@ VokStatus ImageConstant(const T* src, int srcStep, const T* values, T* dst,
   VokStatus voki##family##_##token##_##layout##R##sfs(                        \
       const T* src, int srcStep, ValueParam, T* dst, int dstStep,             \
       VokiSize roi VOK_SCALE_PARAM_##sfs) {                                   \
-    return vok::ImageConstant<vok::ArithOp::op, T, vok::kLayout>(             \
+    return vok::ImageConstant<vok::ArithOp::op, T, vok::kLayout, false>(      \
         src, srcStep, valuePtr, dst, dstStep, roi, VOK_SCALE_ARG_##sfs);      \
   }                                                                           \
   VokStatus voki##family##_##token##_##layout##IR##sfs(                       \
       ValueParam, T* srcDst, int srcDstStep,                                  \
       VokiSize roi VOK_SCALE_PARAM_##sfs) {                                   \
-    return vok::ImageConstant<vok::ArithOp::op, T, vok::kLayout>(             \
+    return vok::ImageConstant<vok::ArithOp::op, T, vok::kLayout, true>(       \
         srcDst, srcDstStep, valuePtr, srcDst, srcDstStep, roi,                \
         VOK_SCALE_ARG_##sfs);                                                 \
   }

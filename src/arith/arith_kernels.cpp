@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "arith/arith.h"
+#include "foundation/parallel.h"
 #include "foundation/rows-inl.h"
 #include "hwy/highway.h"
 
@@ -92,13 +93,6 @@ struct SignBound {
   }
 };
 
-template <class DW>
-struct ToZero {
-  DW dw;
-  template <class V>
-  V operator()(V) const { return hn::Zero(dw); }
-};
-
 // Integer samples: promote, combine exactly, scale, narrow with saturation.
 template <typename T, class Op, class Stage>
 struct WideRule {
@@ -151,26 +145,15 @@ struct FullScaleRule {
   }
 };
 
-// Scale factors at or below these are all-saturating; above kZeroAbove all
-// results round to zero.
-template <typename T, class Op>
-struct ScaleLimits;
-template <> struct ScaleLimits<uint8_t, Add> { static constexpr int kZeroAbove = 9, kBoundAtOrBelow = -8; };
-template <> struct ScaleLimits<uint8_t, Sub> { static constexpr int kZeroAbove = 8, kBoundAtOrBelow = -8; };
-template <> struct ScaleLimits<uint8_t, Mul> { static constexpr int kZeroAbove = 16, kBoundAtOrBelow = -8; };
-template <> struct ScaleLimits<int16_t, Add> { static constexpr int kZeroAbove = 16, kBoundAtOrBelow = -16; };
-template <> struct ScaleLimits<int16_t, Sub> { static constexpr int kZeroAbove = 16, kBoundAtOrBelow = -16; };
-template <> struct ScaleLimits<int16_t, Mul> { static constexpr int kZeroAbove = 30, kBoundAtOrBelow = -15; };
-
 template <typename T, class Op, class Stage>
 void RunWide(const ArithJob& job, int y0, int y1, Stage stage) {
   ApplyRows<T, T>(job.rows, y0, y1, WideRule<T, Op, Stage>{{}, stage});
 }
 
-// Picks the stage of the scale-factor rule by the value of the factor.
+// Picks the stage of the scale-factor rule by the value of the factor. The
+// entries zero the image themselves for factors above the limit.
 template <typename T, class Op>
 void RunScaled(const ArithJob& job, int y0, int y1) {
-  using Limits = ScaleLimits<T, Op>;
   const hn::ScalableTag<WideOf<T, Op>> dw;
   const int s = job.scale;
   if (s == 0) {
@@ -179,11 +162,9 @@ void RunScaled(const ArithJob& job, int y0, int y1) {
     } else {
       ApplyRows<T, T>(job.rows, y0, y1, SaturatedRule<T, Op>{});
     }
-  } else if (s > Limits::kZeroAbove) {
-    RunWide<T, Op>(job, y0, y1, ToZero<decltype(dw)>{dw});
   } else if (s > 0) {
     RunWide<T, Op>(job, y0, y1, RoundingShift<decltype(dw)>{dw, s});
-  } else if (s > Limits::kBoundAtOrBelow) {
+  } else if (s > LimitsOf<T>(job.op).boundAtOrBelow) {
     RunWide<T, Op>(job, y0, y1,
                    SaturatingLeftShift<decltype(dw), T>{dw, -s});
   } else {
@@ -240,21 +221,35 @@ HWY_EXPORT(ArithRows16u);
 HWY_EXPORT(ArithRows16s);
 HWY_EXPORT(ArithRows32f);
 
+namespace {
+
+// The static row loop of the rounding paths, entered from the job's
+// cut-over on height plus row length.
+template <class Rows>
+void RunRows(const ArithJob& job, Rows rows) {
+  const int measure = job.rows.height + static_cast<int>(job.rows.rowSamples);
+  StaticRows(job.rows.height,
+             job.parallelFrom > 0 && measure >= job.parallelFrom,
+             [&](int y0, int y1) { rows(job, y0, y1); });
+}
+
+}  // namespace
+
 template <>
 void RunArith<Vok8u>(const ArithJob& job) {
-  HWY_DYNAMIC_DISPATCH(ArithRows8u)(job, 0, job.rows.height);
+  RunRows(job, HWY_DYNAMIC_DISPATCH(ArithRows8u));
 }
 template <>
 void RunArith<Vok16u>(const ArithJob& job) {
-  HWY_DYNAMIC_DISPATCH(ArithRows16u)(job, 0, job.rows.height);
+  RunRows(job, HWY_DYNAMIC_DISPATCH(ArithRows16u));
 }
 template <>
 void RunArith<Vok16s>(const ArithJob& job) {
-  HWY_DYNAMIC_DISPATCH(ArithRows16s)(job, 0, job.rows.height);
+  RunRows(job, HWY_DYNAMIC_DISPATCH(ArithRows16s));
 }
 template <>
 void RunArith<Vok32f>(const ArithJob& job) {
-  HWY_DYNAMIC_DISPATCH(ArithRows32f)(job, 0, job.rows.height);
+  RunRows(job, HWY_DYNAMIC_DISPATCH(ArithRows32f));
 }
 
 }  // namespace vok

@@ -1,0 +1,478 @@
+// Row kernels of Copy and Set, compiled once per instruction set. Samples
+// are handled as unsigned words of their size. Forms that reorder channels
+// walk a row in groups of one vector of pixels, deinterleaving with the
+// instruction set's shuffles; the last group goes through stack copies that
+// hold exactly the row's bytes, so nothing outside the row is read or
+// written.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "data/copy_kernels.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+#include "data/copy.h"
+#include "foundation/image.h"
+#include "foundation/rows-inl.h"
+#include "hwy/cache_control.h"
+#include "hwy/highway.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace vok {
+namespace HWY_NAMESPACE {
+namespace {
+
+// ---- Whole rows, with stores past the cache for large images -------------
+
+// Images above these sizes would only evict the caller's data from the
+// cache, so their stores bypass it.
+constexpr size_t kCopyBypassBytes = 131072;
+constexpr size_t kSetBypassBytes = 262144;
+constexpr size_t kSet16sC1BypassBytes = 180000;
+
+// Writes `bytes` bytes from at(i), the source of row byte i, which is
+// readable for one vector. Stores that bypass the cache need aligned
+// addresses: the bytes before the first aligned one and after the last full
+// vector take ordinary stores.
+template <bool kBypass, class Source>
+HWY_INLINE void WriteRow(uint8_t* dst, size_t bytes, const Source& at) {
+  const hn::ScalableTag<uint8_t> d;
+  const size_t lanes = hn::Lanes(d);
+  auto store = [&](size_t i) {
+    if constexpr (kBypass) {
+      hn::Stream(hn::LoadU(d, at(i)), d, dst + i);
+    } else {
+      hn::StoreU(hn::LoadU(d, at(i)), d, dst + i);
+    }
+  };
+  size_t i = 0;
+  if (kBypass) {
+    const size_t misalignment = reinterpret_cast<uintptr_t>(dst) % lanes;
+    i = std::min(bytes, misalignment == 0 ? 0 : lanes - misalignment);
+    std::memcpy(dst, at(0), i);
+  }
+  for (; i + 4 * lanes <= bytes; i += 4 * lanes) {
+    store(i);
+    store(i + lanes);
+    store(i + 2 * lanes);
+    store(i + 3 * lanes);
+  }
+  for (; i + lanes <= bytes; i += lanes) store(i);
+  std::memcpy(dst + i, at(i), bytes - i);
+}
+
+// Rows of `rowBytes`, or one long row when the image has no gaps.
+struct Rows {
+  size_t bytes;
+  int count;
+};
+inline Rows Fold(size_t rowBytes, int height, ptrdiff_t srcStep,
+                 ptrdiff_t dstStep) {
+  if (srcStep == dstStep && size_t(dstStep) == rowBytes)
+    return Rows{rowBytes * height, 1};
+  return Rows{rowBytes, height};
+}
+
+void CopyWhole(const CopyJob& job, size_t sampleBytes) {
+  const auto* src = static_cast<const uint8_t*>(job.src[0]);
+  auto* dst = static_cast<uint8_t*>(job.dst[0]);
+  if (src == dst && job.srcStep == job.dstStep) return;
+  const Rows rows = Fold(size_t(job.width) * job.channels * sampleBytes,
+                         job.height, job.srcStep, job.dstStep);
+  if (rows.bytes * rows.count <= kCopyBypassBytes) {
+    for (int y = 0; y < rows.count; ++y)
+      std::memcpy(RowAt(dst, job.dstStep, y), RowAt(src, job.srcStep, y),
+                  rows.bytes);
+    return;
+  }
+  for (int y = 0; y < rows.count; ++y) {
+    const uint8_t* from = RowAt(src, job.srcStep, y);
+    WriteRow<true>(RowAt(dst, job.dstStep, y), rows.bytes,
+                   [from](size_t i) { return from + i; });
+  }
+  hwy::FlushStream();
+}
+
+// A fill pattern: whole pixels of the value repeated over kPeriodBytes, a
+// multiple of every pixel size, plus one vector for reads that start near
+// its end. Built once per call.
+constexpr size_t kPeriodBytes = 3072;
+
+void SetWhole(const SetJob& job, size_t sampleBytes) {
+  const size_t pixelBytes = job.channels * sampleBytes;
+  HWY_ALIGN uint8_t pattern[kPeriodBytes + HWY_MAX_BYTES];
+  std::memcpy(pattern, job.value, pixelBytes);
+  for (size_t n = pixelBytes; n < sizeof(pattern); n *= 2)
+    std::memcpy(pattern + n, pattern, std::min(n, sizeof(pattern) - n));
+  auto at = [&pattern](size_t i) { return pattern + i % kPeriodBytes; };
+
+  auto* dst = static_cast<uint8_t*>(job.dst);
+  const Rows rows = Fold(size_t(job.width) * pixelBytes, job.height,
+                         job.dstStep, job.dstStep);
+  const size_t bypassAbove = sampleBytes == 2 && job.channels == 1
+                                 ? kSet16sC1BypassBytes
+                                 : kSetBypassBytes;
+  if (rows.bytes * rows.count <= bypassAbove) {
+    for (int y = 0; y < rows.count; ++y)
+      WriteRow<false>(RowAt(dst, job.dstStep, y), rows.bytes, at);
+    return;
+  }
+  for (int y = 0; y < rows.count; ++y)
+    WriteRow<true>(RowAt(dst, job.dstStep, y), rows.bytes, at);
+  hwy::FlushStream();
+}
+
+// ---- AC4 through the shared element-wise rows ----------------------------
+
+// The rule that yields operand a (Copy) or operand b (Set's repeated value);
+// ApplyRows keeps the destination's alpha.
+template <typename T, bool kSecond>
+struct Pass {
+  hn::ScalableTag<T> d;
+  HWY_INLINE auto operator()(const T* a, const T* b) const {
+    return hn::LoadU(d, kSecond ? b : a);
+  }
+};
+
+template <typename T>
+void CopyAlpha(const CopyJob& job) {
+  const ElementRows rows{job.src[0], job.srcStep, job.src[0], job.srcStep,
+                         nullptr,    job.dst[0],  job.dstStep,
+                         size_t(job.width) * 4,   job.height, kAC4};
+  ApplyRows<T, T>(rows, 0, job.height, Pass<T, false>{});
+}
+
+template <typename T>
+void SetAlpha(const SetJob& job) {
+  T constant[4] = {};
+  std::memcpy(constant, job.value, 3 * sizeof(T));
+  const ElementRows rows{job.dst,  job.dstStep, nullptr,
+                         0,        constant,    job.dst,
+                         job.dstStep, size_t(job.width) * 4, job.height,
+                         kAC4};
+  ApplyRows<T, T>(rows, 0, job.height, Pass<T, true>{});
+}
+
+// ---- Pixel groups ----------------------------------------------------------
+
+// One operand of a row: its first byte, the bytes from pixel to pixel, the
+// bytes from `p` that belong to the row, and whether it is written.
+struct Stream {
+  uint8_t* p;
+  size_t pixelBytes;
+  size_t extentBytes;
+  bool written;
+};
+
+// Calls body(at) with at[k] pointing at the same group of `lanes` pixels in
+// every stream. A stream that addresses one channel of interleaved pixels
+// ends at that channel of the last pixel, so the last group, which may be
+// full, goes through stack copies of exactly the remaining bytes.
+template <size_t K, class Body>
+HWY_INLINE void ForPixelGroups(size_t width, size_t lanes,
+                               const std::array<Stream, K>& s,
+                               const Body& body) {
+  size_t groups = width / lanes;
+  for (const Stream& stream : s)
+    groups = std::min(groups, stream.extentBytes / (lanes * stream.pixelBytes));
+  std::array<uint8_t*, K> at;
+  for (size_t g = 0; g < groups; ++g) {
+    for (size_t k = 0; k < K; ++k)
+      at[k] = s[k].p + g * lanes * s[k].pixelBytes;
+    body(at);
+  }
+  if (groups * lanes == width) return;
+  HWY_ALIGN uint8_t tail[K][4 * HWY_MAX_BYTES] = {};
+  size_t offset[K];
+  for (size_t k = 0; k < K; ++k) {
+    offset[k] = groups * lanes * s[k].pixelBytes;
+    std::memcpy(tail[k], s[k].p + offset[k], s[k].extentBytes - offset[k]);
+    at[k] = tail[k];
+  }
+  body(at);
+  for (size_t k = 0; k < K; ++k)
+    if (s[k].written)
+      std::memcpy(s[k].p + offset[k], tail[k], s[k].extentBytes - offset[k]);
+}
+
+// Row y of an image, as a stream.
+inline Stream StreamAt(const void* first, ptrdiff_t step, int y,
+                       size_t pixelBytes, size_t extentBytes, bool written) {
+  return Stream{RowAt(static_cast<uint8_t*>(const_cast<void*>(first)), step, y),
+                pixelBytes, extentBytes, written};
+}
+
+// Byte counts of one row of w pixels of N samples T: all of it, from a
+// channel to the same channel of the last pixel, and one plane.
+template <typename T, size_t N>
+struct RowBytes {
+  explicit RowBytes(int width) : w(width) {}
+  size_t w;
+  size_t pixel = N * sizeof(T);
+  size_t whole = w * pixel;
+  size_t channel = (w - 1) * pixel + sizeof(T);
+  size_t plane = w * sizeof(T);
+};
+
+template <size_t N, class D, class V>
+HWY_INLINE void LoadPixels(D d, const uint8_t* p, V (&v)[N]) {
+  const auto* t = reinterpret_cast<const hn::TFromD<D>*>(p);
+  if constexpr (N == 1) {
+    v[0] = hn::LoadU(d, t);
+  } else if constexpr (N == 3) {
+    hn::LoadInterleaved3(d, t, v[0], v[1], v[2]);
+  } else {
+    hn::LoadInterleaved4(d, t, v[0], v[1], v[2], v[3]);
+  }
+}
+
+template <size_t N, class D, class V>
+HWY_INLINE void StorePixels(D d, const V (&v)[N], uint8_t* p) {
+  auto* t = reinterpret_cast<hn::TFromD<D>*>(p);
+  if constexpr (N == 1) {
+    hn::StoreU(v[0], d, t);
+  } else if constexpr (N == 3) {
+    hn::StoreInterleaved3(v[0], v[1], v[2], d, t);
+  } else {
+    hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, t);
+  }
+}
+
+// Lanes whose pixel has a non-zero mask byte.
+template <class D>
+HWY_INLINE auto Selected(D d, const uint8_t* mask) {
+  if constexpr (sizeof(hn::TFromD<D>) == 1) {
+    return hn::Ne(hn::LoadU(d, mask), hn::Zero(d));
+  } else {
+    const hn::Rebind<uint8_t, D> d8;
+    return hn::Ne(hn::PromoteTo(d, hn::LoadU(d8, mask)), hn::Zero(d));
+  }
+}
+
+// The samples of a pixel that an operation writes: alpha is left out.
+template <size_t N, bool kKeepAlpha>
+constexpr size_t kWritten = kKeepAlpha ? 3 : N;
+
+template <typename T, size_t N, bool kKeepAlpha>
+void CopyMasked(const CopyJob& job) {
+  using D = hn::ScalableTag<T>;
+  const D d;
+  using V = hn::Vec<D>;
+  const RowBytes<T, N> b(job.width);
+  for (int y = 0; y < job.height; ++y) {
+    const std::array<Stream, 3> s = {
+        StreamAt(job.src[0], job.srcStep, y, b.pixel, b.whole, false),
+        StreamAt(job.dst[0], job.dstStep, y, b.pixel, b.whole, true),
+        StreamAt(job.mask, job.maskStep, y, 1, b.w, false)};
+    ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
+      V from[N], to[N];
+      LoadPixels(d, at[0], from);
+      LoadPixels(d, at[1], to);
+      const auto selected = Selected(d, at[2]);
+      for (size_t c = 0; c < kWritten<N, kKeepAlpha>; ++c)
+        to[c] = hn::IfThenElse(selected, from[c], to[c]);
+      StorePixels(d, to, at[1]);
+    });
+  }
+}
+
+// Channel, extraction, insertion and the C3/AC4 conversions: NS samples per
+// source pixel, ND per destination pixel. With kOneChannel the interleaved
+// sides point at the chosen channel, so channel 0 of the loaded pixels is the
+// one that moves; otherwise the first three samples move.
+template <typename T, size_t NS, size_t ND, bool kOneChannel>
+void CopyChannels(const CopyJob& job) {
+  using D = hn::ScalableTag<T>;
+  const D d;
+  using V = hn::Vec<D>;
+  const RowBytes<T, NS> from(job.width);
+  const RowBytes<T, ND> to(job.width);
+  const size_t fromExtent = kOneChannel && NS > 1 ? from.channel : from.whole;
+  const size_t toExtent = kOneChannel && ND > 1 ? to.channel : to.whole;
+  constexpr size_t kMoved = kOneChannel ? 1 : 3;
+  for (int y = 0; y < job.height; ++y) {
+    const std::array<Stream, 2> s = {
+        StreamAt(job.src[0], job.srcStep, y, from.pixel, fromExtent, false),
+        StreamAt(job.dst[0], job.dstStep, y, to.pixel, toExtent, true)};
+    ForPixelGroups(from.w, hn::Lanes(d), s, [&](const auto& at) {
+      V in[NS], out[ND];
+      LoadPixels(d, at[0], in);
+      if constexpr (kMoved < ND) LoadPixels(d, at[1], out);
+      for (size_t c = 0; c < kMoved; ++c) out[c] = in[c];
+      StorePixels(d, out, at[1]);
+    });
+  }
+}
+
+template <typename T, size_t N>
+void CopySplit(const CopyJob& job) {
+  using D = hn::ScalableTag<T>;
+  const D d;
+  using V = hn::Vec<D>;
+  const RowBytes<T, N> b(job.width);
+  for (int y = 0; y < job.height; ++y) {
+    std::array<Stream, N + 1> s;
+    s[0] = StreamAt(job.src[0], job.srcStep, y, b.pixel, b.whole, false);
+    for (size_t c = 0; c < N; ++c)
+      s[c + 1] = StreamAt(job.dst[c], job.dstStep, y, sizeof(T), b.plane, true);
+    ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
+      V v[N];
+      LoadPixels(d, at[0], v);
+      for (size_t c = 0; c < N; ++c)
+        hn::StoreU(v[c], d, reinterpret_cast<T*>(at[c + 1]));
+    });
+  }
+}
+
+template <typename T, size_t N>
+void CopyJoin(const CopyJob& job) {
+  using D = hn::ScalableTag<T>;
+  const D d;
+  using V = hn::Vec<D>;
+  const RowBytes<T, N> b(job.width);
+  for (int y = 0; y < job.height; ++y) {
+    std::array<Stream, N + 1> s;
+    s[0] = StreamAt(job.dst[0], job.dstStep, y, b.pixel, b.whole, true);
+    for (size_t c = 0; c < N; ++c)
+      s[c + 1] = StreamAt(job.src[c], job.srcStep, y, sizeof(T), b.plane, false);
+    ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
+      V v[N];
+      for (size_t c = 0; c < N; ++c)
+        v[c] = hn::LoadU(d, reinterpret_cast<const T*>(at[c + 1]));
+      StorePixels(d, v, at[0]);
+    });
+  }
+}
+
+template <typename T, size_t N, bool kKeepAlpha>
+void SetMasked(const SetJob& job) {
+  using D = hn::ScalableTag<T>;
+  const D d;
+  using V = hn::Vec<D>;
+  const RowBytes<T, N> b(job.width);
+  T value[4] = {};
+  std::memcpy(value, job.value, kWritten<N, kKeepAlpha> * sizeof(T));
+  V fill[N];
+  for (size_t c = 0; c < N; ++c) fill[c] = hn::Set(d, value[c]);
+  for (int y = 0; y < job.height; ++y) {
+    const std::array<Stream, 2> s = {
+        StreamAt(job.dst, job.dstStep, y, b.pixel, b.whole, true),
+        StreamAt(job.mask, job.maskStep, y, 1, b.w, false)};
+    ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
+      V to[N];
+      LoadPixels(d, at[0], to);
+      const auto selected = Selected(d, at[1]);
+      for (size_t c = 0; c < kWritten<N, kKeepAlpha>; ++c)
+        to[c] = hn::IfThenElse(selected, fill[c], to[c]);
+      StorePixels(d, to, at[0]);
+    });
+  }
+}
+
+template <typename T, size_t N>
+void SetChannel(const SetJob& job) {
+  using D = hn::ScalableTag<T>;
+  const D d;
+  using V = hn::Vec<D>;
+  const RowBytes<T, N> b(job.width);
+  T value;
+  std::memcpy(&value, job.value, sizeof(T));
+  const V fill = hn::Set(d, value);
+  for (int y = 0; y < job.height; ++y) {
+    const std::array<Stream, 1> s = {
+        StreamAt(job.dst, job.dstStep, y, b.pixel, b.channel, true)};
+    ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
+      V to[N];
+      LoadPixels(d, at[0], to);
+      to[0] = fill;
+      StorePixels(d, to, at[0]);
+    });
+  }
+}
+
+// ---- Selection by form ----------------------------------------------------
+
+template <typename T>
+void CopyRowsOf(const CopyJob& job) {
+  const bool three = job.channels == 3;
+  switch (job.kind) {
+    case CopyKind::kWhole: return CopyWhole(job, sizeof(T));
+    case CopyKind::kAlpha: return CopyAlpha<T>(job);
+    case CopyKind::kMasked:
+      if (job.channels == 1) return CopyMasked<T, 1, false>(job);
+      if (three) return CopyMasked<T, 3, false>(job);
+      if (job.keepAlpha) return CopyMasked<T, 4, true>(job);
+      return CopyMasked<T, 4, false>(job);
+    case CopyKind::kChannel:
+      return three ? CopyChannels<T, 3, 3, true>(job)
+                   : CopyChannels<T, 4, 4, true>(job);
+    case CopyKind::kExtract:
+      return three ? CopyChannels<T, 3, 1, true>(job)
+                   : CopyChannels<T, 4, 1, true>(job);
+    case CopyKind::kInsert:
+      return three ? CopyChannels<T, 1, 3, true>(job)
+                   : CopyChannels<T, 1, 4, true>(job);
+    case CopyKind::kC3ToAC4: return CopyChannels<T, 3, 4, false>(job);
+    case CopyKind::kAC4ToC3: return CopyChannels<T, 4, 3, false>(job);
+    case CopyKind::kSplit:
+      return three ? CopySplit<T, 3>(job) : CopySplit<T, 4>(job);
+    case CopyKind::kJoin:
+      return three ? CopyJoin<T, 3>(job) : CopyJoin<T, 4>(job);
+  }
+}
+
+template <typename T>
+void SetRowsOf(const SetJob& job) {
+  const bool three = job.channels == 3;
+  switch (job.kind) {
+    case SetKind::kWhole: return SetWhole(job, sizeof(T));
+    case SetKind::kAlpha: return SetAlpha<T>(job);
+    case SetKind::kChannel:
+      return three ? SetChannel<T, 3>(job) : SetChannel<T, 4>(job);
+    case SetKind::kMasked:
+      if (job.channels == 1) return SetMasked<T, 1, false>(job);
+      if (three) return SetMasked<T, 3, false>(job);
+      if (job.keepAlpha) return SetMasked<T, 4, true>(job);
+      return SetMasked<T, 4, false>(job);
+  }
+}
+
+}  // namespace
+
+void CopyRows(const CopyJob& job, size_t sampleBytes) {
+  switch (sampleBytes) {
+    case 1: return CopyRowsOf<uint8_t>(job);
+    case 2: return CopyRowsOf<uint16_t>(job);
+    case 4: return CopyRowsOf<uint32_t>(job);
+  }
+}
+
+void SetRows(const SetJob& job, size_t sampleBytes) {
+  switch (sampleBytes) {
+    case 1: return SetRowsOf<uint8_t>(job);
+    case 2: return SetRowsOf<uint16_t>(job);
+    case 4: return SetRowsOf<uint32_t>(job);
+  }
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace vok
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace vok {
+
+HWY_EXPORT(CopyRows);
+HWY_EXPORT(SetRows);
+
+void RunCopy(const CopyJob& job, size_t sampleBytes) {
+  HWY_DYNAMIC_DISPATCH(CopyRows)(job, sampleBytes);
+}
+
+void RunSet(const SetJob& job, size_t sampleBytes) {
+  HWY_DYNAMIC_DISPATCH(SetRows)(job, sampleBytes);
+}
+
+}  // namespace vok
+#endif  // HWY_ONCE
