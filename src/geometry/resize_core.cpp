@@ -171,6 +171,29 @@ void BuildSpans(int count, double s, int limit, bool columns, SuperSpan* out) {
   }
 }
 
+// Spreads the linear or cubic column table over the samples of a line.
+bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels,
+                  Scratch<uint8_t>& block, ResizeSamples& out) {
+  const int before = kind == ResizeKind::kCubic ? 1 : 0;
+  const int after = kind == ResizeKind::kCubic ? 2 : 1;
+  const size_t n = size_t(x.count) * channels;
+  block = AllocateScratch<uint8_t>(n * (2 * sizeof(int32_t) + sizeof(float)));
+  if (!block) return false;
+  auto* offset = reinterpret_cast<int32_t*>(block.get());
+  auto* fixed = offset + n;
+  auto* fraction = reinterpret_cast<float*>(fixed + n);
+  const auto [lo, hi] = std::minmax_element(x.index, x.index + x.count);
+  out = ResizeSamples{*lo - before, *hi + after, offset, fraction, fixed};
+  for (int j = 0; j < x.count; ++j)
+    for (int c = 0; c < channels; ++c) {
+      const size_t i = size_t(j) * channels + c;
+      offset[i] = (x.index[j] - before - out.first) * channels + c;
+      fixed[i] = x.fixed[j];
+      fraction[i] = x.fraction[j];
+    }
+  return true;
+}
+
 ResizeKind KindOf(int interpolation) {
   switch (interpolation) {
     case vokInterLinear: return ResizeKind::kLinear;
@@ -240,12 +263,16 @@ double ResizeStep(int interpolation, int roiLength, double factor) {
 size_t ResizeScratchBytes(const ResizeTables& tables, int channels,
                           size_t sampleSize) {
   const size_t line = size_t(tables.x.count) * channels;
+  // Lines, then one source row widened to 32 bits at a 64-byte boundary.
+  const size_t widened =
+      size_t(tables.samples.last - tables.samples.first + 1) * channels * 4;
+  auto withRow = [&](size_t lines) { return ((lines + 63) & ~size_t{63}) + widened; };
   switch (tables.kind) {
     case ResizeKind::kNearest: return 0;
     case ResizeKind::kLinear:
-      return 2 * line * (sampleSize == 4 ? sizeof(float) : sizeof(uint16_t));
-    case ResizeKind::kCubic: return 4 * line * sizeof(float);
-    case ResizeKind::kLanczos: return 6 * line * sizeof(float);
+      return withRow(2 * line * (sampleSize == 4 ? sizeof(float) : sizeof(uint16_t)));
+    case ResizeKind::kCubic: return withRow(4 * line * sizeof(float));
+    case ResizeKind::kLanczos: return withRow(6 * line * sizeof(float));
     case ResizeKind::kSuper:
       return size_t(tables.super.accumulated) * channels * sizeof(float);
   }
@@ -315,6 +342,15 @@ VokStatus ResizeCore(const ResizeRequest& q) {
     return vokStatusNoMemory;
   tables.x = x.axis;
   tables.y = y.axis;
+  Scratch<uint8_t> samples;
+  if (tables.kind == ResizeKind::kLanczos) {
+    const auto [lo, hi] = std::minmax_element(x.axis.taps, x.axis.taps + 6 * x.axis.count);
+    tables.samples.first = *lo;
+    tables.samples.last = *hi;
+  } else if (tables.kind != ResizeKind::kNearest &&
+             !BuildSamples(tables.kind, tables.x, q.channels, samples, tables.samples)) {
+    return vokStatusNoMemory;
+  }
   return RunBands<T>(tables, q, origins);
 }
 

@@ -1,7 +1,8 @@
 // Row kernels of resize, compiled once per instruction set. Horizontal passes
-// walk the column tables one destination pixel at a time; vertical passes
-// blend whole lines with vectors and take the end of a row one sample at a
-// time with the same arithmetic, so every target writes the same bytes.
+// widen a source row with vectors and then walk the column tables with
+// indexed loads; vertical passes blend whole lines with vectors and take the
+// end of a row one sample at a time with the same arithmetic, so every
+// target writes the same bytes.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "geometry/resize_kernels.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
@@ -10,6 +11,7 @@
 #include <climits>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <type_traits>
 
 #include "foundation/image.h"
@@ -144,19 +146,45 @@ constexpr int kLinearShift = sizeof(T) == 1 ? 8 : 14;
 template <typename T>
 constexpr int kLinearOutShift = sizeof(T) == 1 ? 20 : 14;
 
+// Source pixels [first, last] of a row in 32-bit lanes, where the vector
+// horizontal passes gather their nodes: int32 for the fixed-point linear
+// pass, float for the rest.
+template <typename W, typename T>
+void WidenRow(const T* s, size_t count, W* wide) {
+  if constexpr (std::is_same_v<T, float>) {
+    std::memcpy(wide, s, count * sizeof(float));
+  } else {
+    const hn::ScalableTag<int32_t> di;
+    const hn::Rebind<T, decltype(di)> dt;
+    const hn::ScalableTag<W> dw;
+    const size_t lanes = hn::Lanes(di);
+    size_t i = 0;
+    for (; i + lanes <= count; i += lanes) {
+      const auto v = hn::PromoteTo(di, hn::LoadU(dt, s + i));
+      if constexpr (std::is_same_v<W, float>) hn::StoreU(hn::ConvertTo(dw, v), dw, wide + i);
+      else hn::StoreU(v, dw, wide + i);
+    }
+    for (; i < count; ++i) wide[i] = static_cast<W>(s[i]);
+  }
+}
+
+template <typename T>
+using WideOf = std::conditional_t<std::is_same_v<T, float>, float, int32_t>;
+
 template <int S, typename T, typename L>
-void LinearLine(const T* s, const ResizeAxis& x, L* line) {
-  for (int j = 0; j < x.count; ++j) {
-    const T* p = s + ptrdiff_t{x.index[j]} * S;
-    L* out = line + j * S;
+void LinearLine(const T* s, const ResizeSamples& x, size_t n, void* scratch, L* line) {
+  using W = WideOf<T>;
+  W* wide = static_cast<W*>(scratch);
+  WidenRow(s + ptrdiff_t{x.first} * S, size_t(x.last - x.first + 1) * S, wide);
+  for (size_t i = 0; i < n; ++i) {
+    const W a = wide[x.offset[i]], b = wide[x.offset[i] + S];
     if constexpr (std::is_same_v<T, float>) {
-      const float f = x.fraction[j];
-      for (int c = 0; c < S; ++c) out[c] = p[c] + (p[S + c] - p[c]) * f;
+      line[i] = a + (b - a) * x.fraction[i];
     } else {
       constexpr int shift = kLinearShift<T>;
-      const int32_t f = x.fixed[j], f0 = kLinearOne - f;
-      for (int c = 0; c < S; ++c)
-        out[c] = static_cast<L>((p[c] * f0 + p[S + c] * f + (1 << (shift - 1))) >> shift);
+      const int32_t f = x.fixed[i];
+      const int32_t h = (a * (kLinearOne - f) + b * f + (1 << (shift - 1))) >> shift;
+      line[i] = static_cast<L>(std::clamp<int32_t>(h, 0, 65535));
     }
   }
 }
@@ -224,13 +252,12 @@ HWY_INLINE V CubicV(D d, V a, V b, V c, V e, V t) {
 }
 
 template <int S, typename T>
-void CubicLine(const T* s, const ResizeAxis& x, float* line) {
-  for (int j = 0; j < x.count; ++j) {
-    const T* p = s + ptrdiff_t{x.index[j] - 1} * S;
-    const float t = x.fraction[j];
-    for (int c = 0; c < S; ++c)
-      line[j * S + c] = Cubic<true>(float(p[c]), float(p[S + c]),
-                                    float(p[2 * S + c]), float(p[3 * S + c]), t);
+void CubicLine(const T* s, const ResizeSamples& x, size_t n, void* scratch, float* line) {
+  float* wide = static_cast<float*>(scratch);
+  WidenRow(s + ptrdiff_t{x.first} * S, size_t(x.last - x.first + 1) * S, wide);
+  for (size_t i = 0; i < n; ++i) {
+    const float* p = wide + x.offset[i];
+    line[i] = Cubic<true>(p[0], p[S], p[2 * S], p[3 * S], x.fraction[i]);
   }
 }
 
@@ -279,13 +306,18 @@ void CubicColumn(const float* const* l, const ResizeAxis& y, int row, T* out,
 
 // Six taps in order, columns already clamped to the image.
 template <int S, typename T>
-void LanczosLine(const T* s, const ResizeAxis& x, float* line) {
+void LanczosLine(const T* s, const ResizeAxis& x, const ResizeSamples& span, void* scratch,
+                 float* line) {
+  float* wide = static_cast<float*>(scratch);
+  WidenRow(s + ptrdiff_t{span.first} * S, size_t(span.last - span.first + 1) * S, wide);
   for (int j = 0; j < x.count; ++j) {
     const int32_t* tap = x.taps + 6 * j;
     const float* w = x.weights + 6 * j;
+    const float* p[6];
+    for (int k = 0; k < 6; ++k) p[k] = wide + ptrdiff_t{tap[k] - span.first} * S;
     for (int c = 0; c < S; ++c) {
-      float sum = w[0] * float(s[ptrdiff_t{tap[0]} * S + c]);
-      for (int k = 1; k < 6; ++k) sum = sum + w[k] * float(s[ptrdiff_t{tap[k]} * S + c]);
+      float sum = w[0] * p[0][c];
+      for (int k = 1; k < 6; ++k) sum = sum + w[k] * p[k][c];
       line[j * S + c] = sum;
     }
   }
@@ -353,11 +385,12 @@ void InterpolatedRows(const ResizeTables& t, const ResizePlane& p, int y0, int y
   constexpr int K = kLinesOf<kKind>;
   const size_t n = size_t(t.x.count) * S;
   LineCache<L, K> cache(static_cast<L*>(scratch), n);
+  void* wide = static_cast<uint8_t*>(scratch) + ((K * n * sizeof(L) + 63) & ~size_t{63});
   auto fill = [&](int32_t row, L* line) {
     const T* s = SrcRow<T>(p, row);
-    if constexpr (kKind == ResizeKind::kLinear) LinearLine<S>(s, t.x, line);
-    else if constexpr (kKind == ResizeKind::kCubic) CubicLine<S>(s, t.x, line);
-    else LanczosLine<S>(s, t.x, line);
+    if constexpr (kKind == ResizeKind::kLinear) LinearLine<S>(s, t.samples, n, wide, line);
+    else if constexpr (kKind == ResizeKind::kCubic) CubicLine<S>(s, t.samples, n, wide, line);
+    else LanczosLine<S>(s, t.x, t.samples, wide, line);
   };
   for (int y = y0; y < y1; ++y) {
     int32_t rows[K];
