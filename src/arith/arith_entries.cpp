@@ -6,21 +6,13 @@
 
 #include "arith/arith.h"
 #include "data/copy.h"
-#include "foundation/check.h"
+#include "foundation/element_entries.h"
 #include "vok.h"
 
 namespace vok {
 namespace {
 
-ElementRows MakeRows(const void* a, int aStep, const void* b, int bStep,
-                     const void* constant, void* dst, int dstStep,
-                     int64_t rowSamples, int height, Layout layout) {
-  return ElementRows{a,   aStep,   b,      bStep,
-                     constant, dst, dstStep, static_cast<size_t>(rowSamples),
-                     height, layout};
-}
-
-enum class Shape { kTwoImages, kTwoImagesInPlace, kConstantInPlace };
+enum class Shape { kTwoImages, kTwoImagesInPlace, kConstant, kConstantInPlace };
 
 // The C1 forms whose rounding paths share rows among threads: height plus
 // width from which they do, for scale factors of 2 and up (to the zeroing
@@ -60,91 +52,46 @@ int ParallelFrom(ArithOp op, Shape shape, int scale) {
   return 0;
 }
 
-// Scale factors above the limit give zero everywhere: the image is set to
-// zero, AC4 alpha staying.
-template <ArithOp kOp, typename T>
-bool ZeroesAll(int scale) {
-  return std::is_integral_v<T> && kOp != ArithOp::kMulScale &&
-         scale > LimitsOf<T>(kOp).zeroAbove;
-}
+// What an entry passes on beside the rows: the scale factor and its shape,
+// which decides on a parallel region.
+struct ArithParam {
+  int scale;
+  Shape shape;
+};
 
-template <typename T>
-void SetZero(T* dst, int dstStep, VokiSize roi, Layout layout) {
-  RunSet(SetJob{layout.keepAlpha ? SetKind::kAlpha : SetKind::kWhole,
-                layout.channels, layout.keepAlpha, {}, dst, dstStep, nullptr,
-                0, roi.width, roi.height},
-         sizeof(T));
-}
-
-// The full-scale multiplies test steps before the size; the others the size
-// before the steps.
-VokStatus CheckArgs(ArithOp op, Pointers pointers, VokiSize roi, Steps steps) {
-  return op == ArithOp::kMulScale ? CheckNullStepSize(pointers, roi, steps)
-                                  : CheckNullSizeStep(pointers, roi, steps);
-}
-
-// C3 and C4 two-image forms are the C1 form over a row of channels times the
-// width. They test the size first: Add, Sub and Mul the width alone, the
-// full-scale multiply width and height.
-bool BadSizeBeforeForwarding(ArithOp op, VokiSize roi) {
-  return op == ArithOp::kMulScale ? BadSize(roi) : roi.width < 1;
-}
-
-// a op b, where Sub's minuend is the second source.
-template <ArithOp kOp, typename T, Layout kLayout, Shape kShape>
-VokStatus TwoImages(const T* src1, int src1Step, const T* src2, int src2Step,
-                    T* dst, int dstStep, VokiSize roi, int scale) {
-  Layout layout = kLayout;
-  if (kLayout.channels > 1 && !kLayout.keepAlpha) {
-    if (BadSizeBeforeForwarding(kOp, roi)) return vokStatusBadSize;
-    layout = kC1;
+// The policy of the shared element-wise entries: a op b with Sub's minuend
+// the second source; the full-scale multiplies check steps before the size,
+// and their C3 and C4 forms test width and height before they forward.
+template <ArithOp kOp>
+struct ArithFamily {
+  static constexpr bool kStepBeforeSize = kOp == ArithOp::kMulScale;
+  static constexpr ForwardTest kForwardTest = kOp == ArithOp::kMulScale
+                                                  ? ForwardTest::kWidthAndHeight
+                                                  : ForwardTest::kWidth;
+  template <typename T>
+  static void Run(ElementRows rows, ArithParam param) {
+    // Scale factors above the limit give zero everywhere: the image is set
+    // to zero, AC4 alpha staying.
+    if (std::is_integral_v<T> && kOp != ArithOp::kMulScale &&
+        param.scale > LimitsOf<T>(kOp).zeroAbove) {
+      const Layout layout = rows.layout;
+      RunSet(SetJob{layout.keepAlpha ? SetKind::kAlpha : SetKind::kWhole,
+                    layout.channels, layout.keepAlpha, {}, rows.dst,
+                    int(rows.dstStep), nullptr, 0,
+                    int(rows.rowSamples / layout.channels), rows.height},
+             sizeof(T));
+      return;
+    }
+    if (kOp == ArithOp::kSub && rows.constant == nullptr) {
+      std::swap(rows.a, rows.b);
+      std::swap(rows.aStep, rows.bStep);
+    }
+    const int parallelFrom = rows.layout.channels == 1
+                                 ? ParallelFrom<T>(kOp, param.shape, param.scale)
+                                 : 0;
+    RunArith<T>(ArithJob{rows, kOp, param.scale, parallelFrom});
   }
-  const VokStatus status = CheckArgs(kOp, {src1, src2, dst}, roi,
-                                     {src1Step, src2Step, dstStep});
-  if (status != vokStatusOk) return status;
-  if (ZeroesAll<kOp, T>(scale)) {
-    SetZero(dst, dstStep, roi, kLayout);
-    return vokStatusOk;
-  }
-  if (kOp == ArithOp::kSub) {
-    std::swap(src1, src2);
-    std::swap(src1Step, src2Step);
-  }
-  const int parallelFrom =
-      layout.channels == 1 ? ParallelFrom<T>(kOp, kShape, scale) : 0;
-  RunArith<T>(ArithJob{
-      MakeRows(src1, src1Step, src2, src2Step, nullptr, dst, dstStep,
-               int64_t{roi.width} * kLayout.channels, roi.height, layout),
-      kOp, scale, parallelFrom});
-  return vokStatusOk;
-}
-
-// source op constant, one constant per channel. AC4 constants have three
-// components; the fourth lane's value is never stored.
-template <ArithOp kOp, typename T, Layout kLayout, bool kInPlace>
-VokStatus ImageConstant(const T* src, int srcStep, const T* values, T* dst,
-                        int dstStep, VokiSize roi, int scale) {
-  const VokStatus status =
-      CheckArgs(kOp, {src, values, dst}, roi, {srcStep, dstStep});
-  if (status != vokStatusOk) return status;
-  if (ZeroesAll<kOp, T>(scale)) {
-    SetZero(dst, dstStep, roi, kLayout);
-    return vokStatusOk;
-  }
-  // Only the in-place C1 forms have regions; the others run serially.
-  const int parallelFrom =
-      kInPlace && kLayout.channels == 1
-          ? ParallelFrom<T>(kOp, Shape::kConstantInPlace, scale)
-          : 0;
-  T constant[4] = {};
-  for (int c = 0; c < (kLayout.keepAlpha ? 3 : kLayout.channels); ++c)
-    constant[c] = values[c];
-  RunArith<T>(ArithJob{
-      MakeRows(src, srcStep, nullptr, 0, constant, dst, dstStep,
-               int64_t{roi.width} * kLayout.channels, roi.height, kLayout),
-      kOp, scale, parallelFrom});
-  return vokStatusOk;
-}
+};
 
 }  // namespace
 }  // namespace vok
@@ -184,55 +131,48 @@ VokStatus ImageConstant(const T* src, int srcStep, const T* values, T* dst,
   X(MulCScale, kMulScale, 8u, Vok8u, ) \
   X(MulCScale, kMulScale, 16u, Vok16u, )
 
-#define VOK_TWO_IMAGE_LAYOUT(family, op, token, T, sfs, layout, kLayout)      \
+// In place: srcDst op src, the two-image form with srcDst as second source
+// and destination (srcDst - src for Sub).
+#define VOK_TWO_IMAGE_LAYOUT(layout, kLayout, family, op, token, T, sfs)     \
   VokStatus voki##family##_##token##_##layout##R##sfs(                        \
       const T* src1, int src1Step, const T* src2, int src2Step, T* dst,       \
       int dstStep, VokiSize roi VOK_SCALE_PARAM_##sfs) {                      \
-    return vok::TwoImages<vok::ArithOp::op, T, vok::kLayout,                  \
-                          vok::Shape::kTwoImages>(                            \
+    return vok::TwoImages<vok::ArithFamily<vok::ArithOp::op>, T,              \
+                          vok::kLayout>(                                      \
         src1, src1Step, src2, src2Step, dst, dstStep, roi,                    \
-        VOK_SCALE_ARG_##sfs);                                                 \
+        vok::ArithParam{VOK_SCALE_ARG_##sfs, vok::Shape::kTwoImages});        \
   }                                                                           \
   VokStatus voki##family##_##token##_##layout##IR##sfs(                       \
       const T* src, int srcStep, T* srcDst, int srcDstStep,                   \
       VokiSize roi VOK_SCALE_PARAM_##sfs) {                                   \
-    return vok::TwoImages<vok::ArithOp::op, T, vok::kLayout,                  \
-                          vok::Shape::kTwoImagesInPlace>(                     \
+    return vok::TwoImages<vok::ArithFamily<vok::ArithOp::op>, T,              \
+                          vok::kLayout>(                                      \
         src, srcStep, srcDst, srcDstStep, srcDst, srcDstStep, roi,            \
-        VOK_SCALE_ARG_##sfs);                                                 \
+        vok::ArithParam{VOK_SCALE_ARG_##sfs, vok::Shape::kTwoImagesInPlace}); \
   }
 
-// C1 constants come by value, the others as a pointer to one per channel.
-#define VOK_CONSTANT_LAYOUT(family, op, token, T, sfs, layout, kLayout,       \
-                            ValueParam, valuePtr)                             \
+#define VOK_CONSTANT_LAYOUT(layout, kLayout, family, op, token, T, sfs)      \
   VokStatus voki##family##_##token##_##layout##R##sfs(                        \
-      const T* src, int srcStep, ValueParam, T* dst, int dstStep,             \
-      VokiSize roi VOK_SCALE_PARAM_##sfs) {                                   \
-    return vok::ImageConstant<vok::ArithOp::op, T, vok::kLayout, false>(      \
-        src, srcStep, valuePtr, dst, dstStep, roi, VOK_SCALE_ARG_##sfs);      \
+      const T* src, int srcStep, VOK_VALUE_PARAM_##layout(T), T* dst,         \
+      int dstStep, VokiSize roi VOK_SCALE_PARAM_##sfs) {                      \
+    return vok::ImageConstant<vok::ArithFamily<vok::ArithOp::op>, T, T,       \
+                              vok::kLayout>(                                  \
+        src, srcStep, VOK_VALUE_PTR_##layout, dst, dstStep, roi,              \
+        vok::ArithParam{VOK_SCALE_ARG_##sfs, vok::Shape::kConstant});         \
   }                                                                           \
   VokStatus voki##family##_##token##_##layout##IR##sfs(                       \
-      ValueParam, T* srcDst, int srcDstStep,                                  \
+      VOK_VALUE_PARAM_##layout(T), T* srcDst, int srcDstStep,                 \
       VokiSize roi VOK_SCALE_PARAM_##sfs) {                                   \
-    return vok::ImageConstant<vok::ArithOp::op, T, vok::kLayout, true>(       \
-        srcDst, srcDstStep, valuePtr, srcDst, srcDstStep, roi,                \
-        VOK_SCALE_ARG_##sfs);                                                 \
+    return vok::ImageConstant<vok::ArithFamily<vok::ArithOp::op>, T, T,       \
+                              vok::kLayout>(                                  \
+        srcDst, srcDstStep, VOK_VALUE_PTR_##layout, srcDst, srcDstStep, roi,  \
+        vok::ArithParam{VOK_SCALE_ARG_##sfs, vok::Shape::kConstantInPlace});  \
   }
 
-#define VOK_TWO_IMAGE_FAMILY(family, op, token, T, sfs)         \
-  VOK_TWO_IMAGE_LAYOUT(family, op, token, T, sfs, C1, kC1)      \
-  VOK_TWO_IMAGE_LAYOUT(family, op, token, T, sfs, C3, kC3)      \
-  VOK_TWO_IMAGE_LAYOUT(family, op, token, T, sfs, C4, kC4)      \
-  VOK_TWO_IMAGE_LAYOUT(family, op, token, T, sfs, AC4, kAC4)
-
-#define VOK_CONSTANT_FAMILY(family, op, token, T, sfs)                       \
-  VOK_CONSTANT_LAYOUT(family, op, token, T, sfs, C1, kC1, T value, &value)  \
-  VOK_CONSTANT_LAYOUT(family, op, token, T, sfs, C3, kC3,                   \
-                      const T value[3], value)                              \
-  VOK_CONSTANT_LAYOUT(family, op, token, T, sfs, C4, kC4,                   \
-                      const T value[4], value)                              \
-  VOK_CONSTANT_LAYOUT(family, op, token, T, sfs, AC4, kAC4,                 \
-                      const T value[3], value)
+#define VOK_TWO_IMAGE_FAMILY(family, op, token, T, sfs) \
+  VOK_FOR_PIXEL_LAYOUTS(VOK_TWO_IMAGE_LAYOUT, family, op, token, T, sfs)
+#define VOK_CONSTANT_FAMILY(family, op, token, T, sfs) \
+  VOK_FOR_PIXEL_LAYOUTS(VOK_CONSTANT_LAYOUT, family, op, token, T, sfs)
 
 extern "C" {
 VOK_TWO_IMAGE_FORMS(VOK_TWO_IMAGE_FAMILY)
