@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <type_traits>
 #include <cstring>
 
 #include "data/copy.h"
@@ -305,24 +306,87 @@ void CopyChannels(const CopyJob& job) {
   }
 }
 
+// Image bytes above which planar copies store past the cache, by direction,
+// channels and sample size.
+size_t PlanarBypassBytes(CopyKind kind, int channels, size_t sampleBytes) {
+  const bool split = kind == CopyKind::kSplit, three = channels == 3;
+  switch (sampleBytes) {
+    case 1: return split ? 160000 : three ? 140000 : 180000;
+    case 2: return split ? (three ? 1200000 : 1400000) : three ? 170000 : 180000;
+    default: return split ? 640000 : three ? 180000 : 160000;
+  }
+}
+
+// Pixels before the first group at which every written stream sits on a
+// vector boundary, or `width` when they never do together.
+template <size_t K>
+size_t PixelsToAlignment(const std::array<Stream, K>& s, size_t vectorBytes,
+                         size_t width) {
+  for (size_t h = 0; h < std::min(width, vectorBytes); ++h) {
+    bool aligned = true;
+    for (const Stream& stream : s)
+      if (stream.written &&
+          reinterpret_cast<uintptr_t>(stream.p + h * stream.pixelBytes) % vectorBytes)
+        aligned = false;
+    if (aligned) return h;
+  }
+  return width;
+}
+
+// ForPixelGroups with body(at, bypass): with `bypass` the pixels up to the
+// first aligned group take ordinary stores, the rest stores past the cache.
+template <size_t K, class Body>
+HWY_INLINE void ForPixelGroupsPast(size_t width, size_t lanes, size_t vectorBytes,
+                                   bool bypass, std::array<Stream, K> s,
+                                   const Body& body) {
+  const auto ordinary = [&](const auto& at) { body(at, std::false_type()); };
+  const size_t head = bypass ? PixelsToAlignment(s, vectorBytes, width) : width;
+  if (head > 0) {
+    std::array<Stream, K> first = s;
+    for (Stream& stream : first) stream.extentBytes = head * stream.pixelBytes;
+    ForPixelGroups(head, lanes, first, ordinary);
+  }
+  if (head == width) return;
+  for (Stream& stream : s) {
+    stream.p += head * stream.pixelBytes;
+    stream.extentBytes -= head * stream.pixelBytes;
+  }
+  ForPixelGroups(width - head, lanes, s,
+                 [&](const auto& at) { body(at, std::true_type()); });
+}
+
+// A vector stored the ordinary way or past the cache (aligned).
+template <class D, class V, class Bypass>
+HWY_INLINE void Put(D d, V v, hn::TFromD<D>* p, Bypass) {
+  if constexpr (Bypass::value) {
+    hn::Stream(v, d, p);
+  } else {
+    hn::StoreU(v, d, p);
+  }
+}
+
 template <typename T, size_t N>
 void CopySplit(const CopyJob& job) {
   using D = hn::ScalableTag<T>;
   const D d;
   using V = hn::Vec<D>;
   const RowBytes<T, N> b(job.width);
+  const bool bypass = b.whole * job.height >
+                      PlanarBypassBytes(job.kind, N, sizeof(T));
   for (int y = 0; y < job.height; ++y) {
     std::array<Stream, N + 1> s;
     s[0] = StreamAt(job.src[0], job.srcStep, y, b.pixel, b.whole, false);
     for (size_t c = 0; c < N; ++c)
       s[c + 1] = StreamAt(job.dst[c], job.dstStep, y, sizeof(T), b.plane, true);
-    ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
-      V v[N];
-      LoadPixels(d, at[0], v);
-      for (size_t c = 0; c < N; ++c)
-        hn::StoreU(v[c], d, reinterpret_cast<T*>(at[c + 1]));
-    });
+    ForPixelGroupsPast(b.w, hn::Lanes(d), hn::Lanes(d) * sizeof(T), bypass, s,
+                       [&](const auto& at, auto past) {
+                         V v[N];
+                         LoadPixels(d, at[0], v);
+                         for (size_t c = 0; c < N; ++c)
+                           Put(d, v[c], reinterpret_cast<T*>(at[c + 1]), past);
+                       });
   }
+  if (bypass) hwy::FlushStream();
 }
 
 template <typename T, size_t N>
@@ -330,19 +394,33 @@ void CopyJoin(const CopyJob& job) {
   using D = hn::ScalableTag<T>;
   const D d;
   using V = hn::Vec<D>;
+  const size_t lanes = hn::Lanes(d);
   const RowBytes<T, N> b(job.width);
+  const bool bypass = b.whole * job.height >
+                      PlanarBypassBytes(job.kind, N, sizeof(T));
   for (int y = 0; y < job.height; ++y) {
     std::array<Stream, N + 1> s;
     s[0] = StreamAt(job.dst[0], job.dstStep, y, b.pixel, b.whole, true);
     for (size_t c = 0; c < N; ++c)
       s[c + 1] = StreamAt(job.src[c], job.srcStep, y, sizeof(T), b.plane, false);
-    ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
+    ForPixelGroupsPast(b.w, lanes, lanes * sizeof(T), bypass, s,
+                       [&](const auto& at, auto past) {
       V v[N];
       for (size_t c = 0; c < N; ++c)
         v[c] = hn::LoadU(d, reinterpret_cast<const T*>(at[c + 1]));
-      StorePixels(d, v, at[0]);
+      auto* out = reinterpret_cast<T*>(at[0]);
+      if constexpr (decltype(past)::value) {
+        // Interleaved in the first cache, then streamed out.
+        HWY_ALIGN T pixels[N * hn::MaxLanes(d)];
+        StorePixels(d, v, reinterpret_cast<uint8_t*>(pixels));
+        for (size_t k = 0; k < N; ++k)
+          hn::Stream(hn::Load(d, pixels + k * lanes), d, out + k * lanes);
+      } else {
+        StorePixels(d, v, at[0]);
+      }
     });
   }
+  if (bypass) hwy::FlushStream();
 }
 
 template <typename T, size_t N, bool kKeepAlpha>
