@@ -10,8 +10,8 @@
 
 #include <algorithm>
 #include <array>
-#include <type_traits>
 #include <cstring>
+#include <type_traits>
 
 #include "data/copy.h"
 #include "foundation/image.h"
@@ -159,7 +159,7 @@ void SetAlpha(const SetJob& job) {
 
 // One operand of a row: its first byte, the bytes from pixel to pixel, the
 // bytes from `p` that belong to the row, and whether it is written.
-struct Stream {
+struct Operand {
   uint8_t* p;
   size_t pixelBytes;
   size_t extentBytes;
@@ -167,16 +167,16 @@ struct Stream {
 };
 
 // Calls body(at) with at[k] pointing at the same group of `lanes` pixels in
-// every stream. A stream that addresses one channel of interleaved pixels
+// every operand. An operand that addresses one channel of interleaved pixels
 // ends at that channel of the last pixel, so the last group, which may be
 // full, goes through stack copies of exactly the remaining bytes.
 template <size_t K, class Body>
 HWY_INLINE void ForPixelGroups(size_t width, size_t lanes,
-                               const std::array<Stream, K>& s,
+                               const std::array<Operand, K>& s,
                                const Body& body) {
   size_t groups = width / lanes;
-  for (const Stream& stream : s)
-    groups = std::min(groups, stream.extentBytes / (lanes * stream.pixelBytes));
+  for (const Operand& operand : s)
+    groups = std::min(groups, operand.extentBytes / (lanes * operand.pixelBytes));
   std::array<uint8_t*, K> at;
   for (size_t g = 0; g < groups; ++g) {
     for (size_t k = 0; k < K; ++k)
@@ -197,10 +197,10 @@ HWY_INLINE void ForPixelGroups(size_t width, size_t lanes,
       std::memcpy(s[k].p + offset[k], tail[k], s[k].extentBytes - offset[k]);
 }
 
-// Row y of an image, as a stream.
-inline Stream StreamAt(const void* first, ptrdiff_t step, int y,
+// Row y of an image, as an operand.
+inline Operand OperandAt(const void* first, ptrdiff_t step, int y,
                        size_t pixelBytes, size_t extentBytes, bool written) {
-  return Stream{RowAt(static_cast<uint8_t*>(const_cast<void*>(first)), step, y),
+  return Operand{RowAt(static_cast<uint8_t*>(const_cast<void*>(first)), step, y),
                 pixelBytes, extentBytes, written};
 }
 
@@ -262,10 +262,10 @@ void CopyMasked(const CopyJob& job) {
   using V = hn::Vec<D>;
   const RowBytes<T, N> b(job.width);
   for (int y = 0; y < job.height; ++y) {
-    const std::array<Stream, 3> s = {
-        StreamAt(job.src[0], job.srcStep, y, b.pixel, b.whole, false),
-        StreamAt(job.dst[0], job.dstStep, y, b.pixel, b.whole, true),
-        StreamAt(job.mask, job.maskStep, y, 1, b.w, false)};
+    const std::array<Operand, 3> s = {
+        OperandAt(job.src[0], job.srcStep, y, b.pixel, b.whole, false),
+        OperandAt(job.dst[0], job.dstStep, y, b.pixel, b.whole, true),
+        OperandAt(job.mask, job.maskStep, y, 1, b.w, false)};
     ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
       V from[N], to[N];
       LoadPixels(d, at[0], from);
@@ -293,9 +293,9 @@ void CopyChannels(const CopyJob& job) {
   const size_t toExtent = kOneChannel && ND > 1 ? to.channel : to.whole;
   constexpr size_t kMoved = kOneChannel ? 1 : 3;
   for (int y = 0; y < job.height; ++y) {
-    const std::array<Stream, 2> s = {
-        StreamAt(job.src[0], job.srcStep, y, from.pixel, fromExtent, false),
-        StreamAt(job.dst[0], job.dstStep, y, to.pixel, toExtent, true)};
+    const std::array<Operand, 2> s = {
+        OperandAt(job.src[0], job.srcStep, y, from.pixel, fromExtent, false),
+        OperandAt(job.dst[0], job.dstStep, y, to.pixel, toExtent, true)};
     ForPixelGroups(from.w, hn::Lanes(d), s, [&](const auto& at) {
       V in[NS], out[ND];
       LoadPixels(d, at[0], in);
@@ -317,16 +317,16 @@ size_t PlanarBypassBytes(CopyKind kind, int channels, size_t sampleBytes) {
   }
 }
 
-// Pixels before the first group at which every written stream sits on a
+// Pixels before the first group at which every written operand sits on a
 // vector boundary, or `width` when they never do together.
 template <size_t K>
-size_t PixelsToAlignment(const std::array<Stream, K>& s, size_t vectorBytes,
+size_t PixelsToAlignment(const std::array<Operand, K>& s, size_t vectorBytes,
                          size_t width) {
   for (size_t h = 0; h < std::min(width, vectorBytes); ++h) {
     bool aligned = true;
-    for (const Stream& stream : s)
-      if (stream.written &&
-          reinterpret_cast<uintptr_t>(stream.p + h * stream.pixelBytes) % vectorBytes)
+    for (const Operand& operand : s)
+      if (operand.written &&
+          reinterpret_cast<uintptr_t>(operand.p + h * operand.pixelBytes) % vectorBytes)
         aligned = false;
     if (aligned) return h;
   }
@@ -337,19 +337,19 @@ size_t PixelsToAlignment(const std::array<Stream, K>& s, size_t vectorBytes,
 // first aligned group take ordinary stores, the rest stores past the cache.
 template <size_t K, class Body>
 HWY_INLINE void ForPixelGroupsPast(size_t width, size_t lanes, size_t vectorBytes,
-                                   bool bypass, std::array<Stream, K> s,
+                                   bool bypass, std::array<Operand, K> s,
                                    const Body& body) {
   const auto ordinary = [&](const auto& at) { body(at, std::false_type()); };
   const size_t head = bypass ? PixelsToAlignment(s, vectorBytes, width) : width;
   if (head > 0) {
-    std::array<Stream, K> first = s;
-    for (Stream& stream : first) stream.extentBytes = head * stream.pixelBytes;
+    std::array<Operand, K> first = s;
+    for (Operand& operand : first) operand.extentBytes = head * operand.pixelBytes;
     ForPixelGroups(head, lanes, first, ordinary);
   }
   if (head == width) return;
-  for (Stream& stream : s) {
-    stream.p += head * stream.pixelBytes;
-    stream.extentBytes -= head * stream.pixelBytes;
+  for (Operand& operand : s) {
+    operand.p += head * operand.pixelBytes;
+    operand.extentBytes -= head * operand.pixelBytes;
   }
   ForPixelGroups(width - head, lanes, s,
                  [&](const auto& at) { body(at, std::true_type()); });
@@ -374,10 +374,10 @@ void CopySplit(const CopyJob& job) {
   const bool bypass = b.whole * job.height >
                       PlanarBypassBytes(job.kind, N, sizeof(T));
   for (int y = 0; y < job.height; ++y) {
-    std::array<Stream, N + 1> s;
-    s[0] = StreamAt(job.src[0], job.srcStep, y, b.pixel, b.whole, false);
+    std::array<Operand, N + 1> s;
+    s[0] = OperandAt(job.src[0], job.srcStep, y, b.pixel, b.whole, false);
     for (size_t c = 0; c < N; ++c)
-      s[c + 1] = StreamAt(job.dst[c], job.dstStep, y, sizeof(T), b.plane, true);
+      s[c + 1] = OperandAt(job.dst[c], job.dstStep, y, sizeof(T), b.plane, true);
     ForPixelGroupsPast(b.w, hn::Lanes(d), hn::Lanes(d) * sizeof(T), bypass, s,
                        [&](const auto& at, auto past) {
                          V v[N];
@@ -399,10 +399,10 @@ void CopyJoin(const CopyJob& job) {
   const bool bypass = b.whole * job.height >
                       PlanarBypassBytes(job.kind, N, sizeof(T));
   for (int y = 0; y < job.height; ++y) {
-    std::array<Stream, N + 1> s;
-    s[0] = StreamAt(job.dst[0], job.dstStep, y, b.pixel, b.whole, true);
+    std::array<Operand, N + 1> s;
+    s[0] = OperandAt(job.dst[0], job.dstStep, y, b.pixel, b.whole, true);
     for (size_t c = 0; c < N; ++c)
-      s[c + 1] = StreamAt(job.src[c], job.srcStep, y, sizeof(T), b.plane, false);
+      s[c + 1] = OperandAt(job.src[c], job.srcStep, y, sizeof(T), b.plane, false);
     ForPixelGroupsPast(b.w, lanes, lanes * sizeof(T), bypass, s,
                        [&](const auto& at, auto past) {
       V v[N];
@@ -434,9 +434,9 @@ void SetMasked(const SetJob& job) {
   V fill[N];
   for (size_t c = 0; c < N; ++c) fill[c] = hn::Set(d, value[c]);
   for (int y = 0; y < job.height; ++y) {
-    const std::array<Stream, 2> s = {
-        StreamAt(job.dst, job.dstStep, y, b.pixel, b.whole, true),
-        StreamAt(job.mask, job.maskStep, y, 1, b.w, false)};
+    const std::array<Operand, 2> s = {
+        OperandAt(job.dst, job.dstStep, y, b.pixel, b.whole, true),
+        OperandAt(job.mask, job.maskStep, y, 1, b.w, false)};
     ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
       V to[N];
       LoadPixels(d, at[0], to);
@@ -458,8 +458,8 @@ void SetChannel(const SetJob& job) {
   std::memcpy(&value, job.value, sizeof(T));
   const V fill = hn::Set(d, value);
   for (int y = 0; y < job.height; ++y) {
-    const std::array<Stream, 1> s = {
-        StreamAt(job.dst, job.dstStep, y, b.pixel, b.channel, true)};
+    const std::array<Operand, 1> s = {
+        OperandAt(job.dst, job.dstStep, y, b.pixel, b.channel, true)};
     ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
       V to[N];
       LoadPixels(d, at[0], to);
