@@ -314,22 +314,37 @@ void FastNormRows(const ReduceRows& rows, double sums[4]) {
 
 // ---- Extrema -----------------------------------------------------------
 
+template <typename T>
+T LoadSample(const T* p) {
+  T value;
+  std::memcpy(&value, p, sizeof(T));
+  return value;
+}
+
 // Runs visit(k, v) over a row of n samples in chunks of three vectors, k
-// being the vector's place in the chunk. The last partial chunk is padded
-// with copies of the row's first pixel, which moves no extremum.
+// being the vector's place in the chunk. Chunks hold whole pixels, so a
+// partial last chunk can be the row's last full chunk again, which moves no
+// extremum; a row shorter than a chunk is padded with copies of its first
+// pixel.
 template <class D, typename T, class Visit>
 HWY_INLINE void VisitRow(D d, const T* row, size_t n, size_t channels,
                          const Visit& visit) {
   const size_t lanes = hn::Lanes(d);
   const size_t chunk = 3 * lanes;
+  auto visitChunk = [&](const T* p) {
+    for (size_t k = 0; k < 3; ++k) visit(k, hn::LoadU(d, p + k * lanes));
+  };
   size_t i = 0;
-  for (; i + chunk <= n; i += chunk)
-    for (size_t k = 0; k < 3; ++k) visit(k, hn::LoadU(d, row + i + k * lanes));
+  for (; i + chunk <= n; i += chunk) visitChunk(row + i);
   if (i == n) return;
+  if (n >= chunk) return visitChunk(row + n - chunk);
   HWY_ALIGN T tail[3 * hn::MaxLanes(D())];
-  for (size_t j = 0; j < chunk; ++j) std::memcpy(tail + j, row + j % channels, sizeof(T));
-  std::memcpy(tail, row + i, (n - i) * sizeof(T));
-  for (size_t k = 0; k < 3; ++k) visit(k, hn::Load(d, tail + k * lanes));
+  std::memcpy(tail, row, n * sizeof(T));
+  T pixel[4];
+  for (size_t c = 0; c < channels; ++c) pixel[c] = LoadSample(row + c);
+  for (size_t j = n; j < chunk; j += channels)
+    for (size_t c = 0; c < channels; ++c) tail[j + c] = pixel[c];
+  visitChunk(tail);
 }
 
 template <typename T>
@@ -370,13 +385,6 @@ HWY_NOINLINE void ExtremaRows(const ReduceRows& rows, T lo[4], T hi[4]) {
     if (minLanes[j] < l) l = minLanes[j];
     if (maxLanes[j] > h) h = maxLanes[j];
   }
-}
-
-template <typename T>
-T LoadSample(const T* p) {
-  T value;
-  std::memcpy(&value, p, sizeof(T));
-  return value;
 }
 
 // Row by row: a vector pass finds the row's extrema, and only a row that
