@@ -66,9 +66,10 @@ HWY_INLINE void FoldRows(const Rule& rule, const ReduceRows& rows,
     drain(out, kVectors * lanes);
     pending = 0;
   };
-  auto step = [&](const T* a, const T* b) {
-    for (size_t k = 0; k < kVectors; ++k)
-      acc[k] = rule.Combine(acc[k], rule(a + k * stride, b + k * stride));
+  auto add = [&](size_t k, const T* a, const T* b) {
+    acc[k] = rule.Combine(acc[k], rule(a, b));
+  };
+  auto endChunk = [&] {
     if (++pending == Rule::kFlushChunks) empty();
   };
 
@@ -78,13 +79,24 @@ HWY_INLINE void FoldRows(const Rule& rule, const ReduceRows& rows,
     // Rules of one image ignore b; the row itself stands in for it.
     const T* b = rows.b ? RowAt(static_cast<const T*>(rows.b), rows.bStep, y) : a;
     size_t i = 0;
-    for (; i + chunk <= n; i += chunk) step(a + i, b + i);
+    for (; i + chunk <= n; i += chunk) {
+      for (size_t k = 0; k < kVectors; ++k)
+        add(k, a + i + k * stride, b + i + k * stride);
+      endChunk();
+    }
     if (i < n) {
-      HWY_ALIGN T tailA[kVectors * kMaxLanes * kPerLane] = {};
-      HWY_ALIGN T tailB[kVectors * kMaxLanes * kPerLane] = {};
-      std::memcpy(tailA, a + i, (n - i) * sizeof(T));
-      std::memcpy(tailB, b + i, (n - i) * sizeof(T));
-      step(tailA, tailB);
+      // The partial last chunk: whole vectors from the row, the rest through
+      // zero-padded copies.
+      size_t k = 0;
+      for (; i + stride <= n; i += stride, ++k) add(k, a + i, b + i);
+      if (i < n) {
+        HWY_ALIGN T tailA[kMaxLanes * kPerLane] = {};
+        HWY_ALIGN T tailB[kMaxLanes * kPerLane] = {};
+        std::memcpy(tailA, a + i, (n - i) * sizeof(T));
+        std::memcpy(tailB, b + i, (n - i) * sizeof(T));
+        add(k, tailA, tailB);
+      }
+      endChunk();
     }
     if (Rule::kDrainEachRow) empty();
   }
