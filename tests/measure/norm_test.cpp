@@ -115,7 +115,6 @@ std::vector<double> Measure(Norm norm, const Image<T>& a, const Image<T>* b,
   return out;
 }
 
-template <typename T>
 std::vector<double> Rooted(Norm norm, std::vector<double> v) {
   if (norm == Norm::kL2)
     for (double& x : v) x = std::sqrt(x);
@@ -150,7 +149,7 @@ void CompareWithModel(uint32_t seed) {
         SCOPED_TRACE(::testing::Message() << width << "x" << height << " hint " << hint);
 
         const Image<T>* second = form.kind == Kind::kNorm ? nullptr : &b;
-        std::vector<double> want = Rooted<T>(form.norm, Measure(form.norm, a, second, accurate));
+        std::vector<double> want = Rooted(form.norm, Measure(form.norm, a, second, accurate));
         VokStatus wantStatus = vokStatusOk;
         if (form.kind == Kind::kRel) {
           const bool sums = form.norm == Norm::kL2 &&
@@ -158,8 +157,8 @@ void CompareWithModel(uint32_t seed) {
           std::vector<double> num = Measure(form.norm, a, &b, accurate);
           std::vector<double> den = Measure<T>(form.norm, b, nullptr, accurate);
           if (!sums) {
-            num = Rooted<T>(form.norm, num);
-            den = Rooted<T>(form.norm, den);
+            num = Rooted(form.norm, num);
+            den = Rooted(form.norm, den);
           }
           for (int c = 0; c < form.reported; ++c)
             if (!(den[c] >= DBL_MIN)) wantStatus = vokWarnDivideByZero;
