@@ -1028,6 +1028,255 @@ VOK_API VokStatus vokiNormRel_L2_32f_C3R(const Vok32f* src1, int src1Step, const
 VOK_API VokStatus vokiNormRel_L2_32f_C4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, VokiSize roi, Vok64f pValue[4], VokHint hint);
 VOK_API VokStatus vokiNormRel_L2_32f_AC4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, VokiSize roi, Vok64f pValue[3], VokHint hint);
 
+/* ---- Add, Sub, Mul, Div of complex images ----------------------------------
+   Sub is src2 - src1 and Div src2 / src1 (in place srcDst - src, srcDst / src).
+   C1 and two-image C3 forms round ties to even, AC4 forms away from zero;
+   a zero divisor gives 0 (integers) or NaN and returns vokWarnDivideByZero. */
+VOK_API VokStatus vokiAdd_16sc_C1RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16sc_C1IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16sc_C3RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16sc_C3IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16sc_AC4RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_16sc_AC4IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_32sc_C1RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_32sc_C1IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_32sc_C3RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_32sc_C3IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_32sc_AC4RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_32sc_AC4IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAdd_32fc_C1R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32fc_C1IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32fc_C3R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32fc_C3IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32fc_AC4R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAdd_32fc_AC4IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_16sc_C1RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16sc_C1IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16sc_C3RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16sc_C3IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16sc_AC4RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_16sc_AC4IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_32sc_C1RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_32sc_C1IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_32sc_C3RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_32sc_C3IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_32sc_AC4RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_32sc_AC4IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSub_32fc_C1R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32fc_C1IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32fc_C3R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32fc_C3IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32fc_AC4R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSub_32fc_AC4IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_16sc_C1RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16sc_C1IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16sc_C3RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16sc_C3IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16sc_AC4RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_16sc_AC4IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_32sc_C1RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_32sc_C1IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_32sc_C3RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_32sc_C3IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_32sc_AC4RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_32sc_AC4IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMul_32fc_C1R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32fc_C1IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32fc_C3R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32fc_C3IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32fc_AC4R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMul_32fc_AC4IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_16sc_C1RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_16sc_C1IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_16sc_C3RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_16sc_C3IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_16sc_AC4RSfs(const Vok16sc* src1, int src1Step, const Vok16sc* src2, int src2Step, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_16sc_AC4IRSfs(const Vok16sc* src, int srcStep, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_32sc_C1RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_32sc_C1IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_32sc_C3RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_32sc_C3IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_32sc_AC4RSfs(const Vok32sc* src1, int src1Step, const Vok32sc* src2, int src2Step, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_32sc_AC4IRSfs(const Vok32sc* src, int srcStep, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_32fc_C1R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32fc_C1IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32fc_C3R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32fc_C3IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32fc_AC4R(const Vok32fc* src1, int src1Step, const Vok32fc* src2, int src2Step, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32fc_AC4IR(const Vok32fc* src, int srcStep, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+
+/* ---- AddC, SubC, MulC, DivC: a complex image and a constant per channel -----
+   C1 forms round ties to even, C3 and AC4 forms away from zero. */
+VOK_API VokStatus vokiAddC_16sc_C1RSfs(const Vok16sc* src, int srcStep, Vok16sc value, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16sc_C1IRSfs(Vok16sc value, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16sc_C3RSfs(const Vok16sc* src, int srcStep, const Vok16sc value[3], Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16sc_C3IRSfs(const Vok16sc value[3], Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16sc_AC4RSfs(const Vok16sc* src, int srcStep, const Vok16sc value[3], Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_16sc_AC4IRSfs(const Vok16sc value[3], Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_32sc_C1RSfs(const Vok32sc* src, int srcStep, Vok32sc value, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_32sc_C1IRSfs(Vok32sc value, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_32sc_C3RSfs(const Vok32sc* src, int srcStep, const Vok32sc value[3], Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_32sc_C3IRSfs(const Vok32sc value[3], Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_32sc_AC4RSfs(const Vok32sc* src, int srcStep, const Vok32sc value[3], Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_32sc_AC4IRSfs(const Vok32sc value[3], Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiAddC_32fc_C1R(const Vok32fc* src, int srcStep, Vok32fc value, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32fc_C1IR(Vok32fc value, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32fc_C3R(const Vok32fc* src, int srcStep, const Vok32fc value[3], Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32fc_C3IR(const Vok32fc value[3], Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32fc_AC4R(const Vok32fc* src, int srcStep, const Vok32fc value[3], Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAddC_32fc_AC4IR(const Vok32fc value[3], Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_16sc_C1RSfs(const Vok16sc* src, int srcStep, Vok16sc value, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16sc_C1IRSfs(Vok16sc value, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16sc_C3RSfs(const Vok16sc* src, int srcStep, const Vok16sc value[3], Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16sc_C3IRSfs(const Vok16sc value[3], Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16sc_AC4RSfs(const Vok16sc* src, int srcStep, const Vok16sc value[3], Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_16sc_AC4IRSfs(const Vok16sc value[3], Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_32sc_C1RSfs(const Vok32sc* src, int srcStep, Vok32sc value, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_32sc_C1IRSfs(Vok32sc value, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_32sc_C3RSfs(const Vok32sc* src, int srcStep, const Vok32sc value[3], Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_32sc_C3IRSfs(const Vok32sc value[3], Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_32sc_AC4RSfs(const Vok32sc* src, int srcStep, const Vok32sc value[3], Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_32sc_AC4IRSfs(const Vok32sc value[3], Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSubC_32fc_C1R(const Vok32fc* src, int srcStep, Vok32fc value, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32fc_C1IR(Vok32fc value, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32fc_C3R(const Vok32fc* src, int srcStep, const Vok32fc value[3], Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32fc_C3IR(const Vok32fc value[3], Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32fc_AC4R(const Vok32fc* src, int srcStep, const Vok32fc value[3], Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSubC_32fc_AC4IR(const Vok32fc value[3], Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_16sc_C1RSfs(const Vok16sc* src, int srcStep, Vok16sc value, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16sc_C1IRSfs(Vok16sc value, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16sc_C3RSfs(const Vok16sc* src, int srcStep, const Vok16sc value[3], Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16sc_C3IRSfs(const Vok16sc value[3], Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16sc_AC4RSfs(const Vok16sc* src, int srcStep, const Vok16sc value[3], Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_16sc_AC4IRSfs(const Vok16sc value[3], Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_32sc_C1RSfs(const Vok32sc* src, int srcStep, Vok32sc value, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_32sc_C1IRSfs(Vok32sc value, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_32sc_C3RSfs(const Vok32sc* src, int srcStep, const Vok32sc value[3], Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_32sc_C3IRSfs(const Vok32sc value[3], Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_32sc_AC4RSfs(const Vok32sc* src, int srcStep, const Vok32sc value[3], Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_32sc_AC4IRSfs(const Vok32sc value[3], Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiMulC_32fc_C1R(const Vok32fc* src, int srcStep, Vok32fc value, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32fc_C1IR(Vok32fc value, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32fc_C3R(const Vok32fc* src, int srcStep, const Vok32fc value[3], Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32fc_C3IR(const Vok32fc value[3], Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32fc_AC4R(const Vok32fc* src, int srcStep, const Vok32fc value[3], Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiMulC_32fc_AC4IR(const Vok32fc value[3], Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiDivC_16sc_C1RSfs(const Vok16sc* src, int srcStep, Vok16sc value, Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_16sc_C1IRSfs(Vok16sc value, Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_16sc_C3RSfs(const Vok16sc* src, int srcStep, const Vok16sc value[3], Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_16sc_C3IRSfs(const Vok16sc value[3], Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_16sc_AC4RSfs(const Vok16sc* src, int srcStep, const Vok16sc value[3], Vok16sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_16sc_AC4IRSfs(const Vok16sc value[3], Vok16sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_32sc_C1RSfs(const Vok32sc* src, int srcStep, Vok32sc value, Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_32sc_C1IRSfs(Vok32sc value, Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_32sc_C3RSfs(const Vok32sc* src, int srcStep, const Vok32sc value[3], Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_32sc_C3IRSfs(const Vok32sc value[3], Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_32sc_AC4RSfs(const Vok32sc* src, int srcStep, const Vok32sc value[3], Vok32sc* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_32sc_AC4IRSfs(const Vok32sc value[3], Vok32sc* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_32fc_C1R(const Vok32fc* src, int srcStep, Vok32fc value, Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDivC_32fc_C1IR(Vok32fc value, Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiDivC_32fc_C3R(const Vok32fc* src, int srcStep, const Vok32fc value[3], Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDivC_32fc_C3IR(const Vok32fc value[3], Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiDivC_32fc_AC4R(const Vok32fc* src, int srcStep, const Vok32fc value[3], Vok32fc* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDivC_32fc_AC4IR(const Vok32fc value[3], Vok32fc* srcDst, int srcDstStep, VokiSize roi);
+
+/* ---- Vector sums and differences: voksSub is src2 - src1 --------------------- */
+VOK_API VokStatus voksAdd_16s_Sfs(const Vok16s* src1, const Vok16s* src2, Vok16s* dst, int len, int scale);
+VOK_API VokStatus voksAdd_16s_ISfs(const Vok16s* src, Vok16s* srcDst, int len, int scale);
+VOK_API VokStatus voksAdd_32s_Sfs(const Vok32s* src1, const Vok32s* src2, Vok32s* dst, int len, int scale);
+VOK_API VokStatus voksAdd_32s_ISfs(const Vok32s* src, Vok32s* srcDst, int len, int scale);
+VOK_API VokStatus voksAdd_32f(const Vok32f* src1, const Vok32f* src2, Vok32f* dst, int len);
+VOK_API VokStatus voksAdd_32f_I(const Vok32f* src, Vok32f* srcDst, int len);
+VOK_API VokStatus voksSub_16s_Sfs(const Vok16s* src1, const Vok16s* src2, Vok16s* dst, int len, int scale);
+VOK_API VokStatus voksSub_16s_ISfs(const Vok16s* src, Vok16s* srcDst, int len, int scale);
+VOK_API VokStatus voksSub_32s_Sfs(const Vok32s* src1, const Vok32s* src2, Vok32s* dst, int len, int scale);
+VOK_API VokStatus voksSub_32s_ISfs(const Vok32s* src, Vok32s* srcDst, int len, int scale);
+VOK_API VokStatus voksSub_32f(const Vok32f* src1, const Vok32f* src2, Vok32f* dst, int len);
+VOK_API VokStatus voksSub_32f_I(const Vok32f* src, Vok32f* srcDst, int len);
+/* A value neither below nor above 0 (NaN too) copies, or does nothing in place. */
+VOK_API VokStatus voksSubC_32f(const Vok32f* src, Vok32f value, Vok32f* dst, int len);
+VOK_API VokStatus voksSubC_32f_I(Vok32f value, Vok32f* srcDst, int len);
+/* 1 and NaN leave the array as it was; 0 clears it, NaN samples too. */
+VOK_API VokStatus voksMulC_32f_I(Vok32f value, Vok32f* srcDst, int len);
+
+/* ---- Complex vector arithmetic, the rows of the C1 image forms -------------- */
+VOK_API VokStatus voksAdd_16sc_Sfs(const Vok16sc* src1, const Vok16sc* src2, Vok16sc* dst, int len, int scale);
+VOK_API VokStatus voksAdd_16sc_ISfs(const Vok16sc* src, Vok16sc* srcDst, int len, int scale);
+VOK_API VokStatus voksAdd_32sc_Sfs(const Vok32sc* src1, const Vok32sc* src2, Vok32sc* dst, int len, int scale);
+VOK_API VokStatus voksAdd_32sc_ISfs(const Vok32sc* src, Vok32sc* srcDst, int len, int scale);
+VOK_API VokStatus voksAdd_32fc(const Vok32fc* src1, const Vok32fc* src2, Vok32fc* dst, int len);
+VOK_API VokStatus voksAdd_32fc_I(const Vok32fc* src, Vok32fc* srcDst, int len);
+VOK_API VokStatus voksSub_16sc_Sfs(const Vok16sc* src1, const Vok16sc* src2, Vok16sc* dst, int len, int scale);
+VOK_API VokStatus voksSub_16sc_ISfs(const Vok16sc* src, Vok16sc* srcDst, int len, int scale);
+VOK_API VokStatus voksSub_32sc_Sfs(const Vok32sc* src1, const Vok32sc* src2, Vok32sc* dst, int len, int scale);
+VOK_API VokStatus voksSub_32sc_ISfs(const Vok32sc* src, Vok32sc* srcDst, int len, int scale);
+VOK_API VokStatus voksSub_32fc(const Vok32fc* src1, const Vok32fc* src2, Vok32fc* dst, int len);
+VOK_API VokStatus voksSub_32fc_I(const Vok32fc* src, Vok32fc* srcDst, int len);
+VOK_API VokStatus voksMul_16sc_Sfs(const Vok16sc* src1, const Vok16sc* src2, Vok16sc* dst, int len, int scale);
+VOK_API VokStatus voksMul_16sc_ISfs(const Vok16sc* src, Vok16sc* srcDst, int len, int scale);
+VOK_API VokStatus voksMul_32sc_Sfs(const Vok32sc* src1, const Vok32sc* src2, Vok32sc* dst, int len, int scale);
+VOK_API VokStatus voksMul_32sc_ISfs(const Vok32sc* src, Vok32sc* srcDst, int len, int scale);
+VOK_API VokStatus voksMul_32fc(const Vok32fc* src1, const Vok32fc* src2, Vok32fc* dst, int len);
+VOK_API VokStatus voksMul_32fc_I(const Vok32fc* src, Vok32fc* srcDst, int len);
+VOK_API VokStatus voksDiv_16sc_Sfs(const Vok16sc* src1, const Vok16sc* src2, Vok16sc* dst, int len, int scale);
+VOK_API VokStatus voksDiv_16sc_ISfs(const Vok16sc* src, Vok16sc* srcDst, int len, int scale);
+VOK_API VokStatus voksDiv_32fc(const Vok32fc* src1, const Vok32fc* src2, Vok32fc* dst, int len);
+VOK_API VokStatus voksDiv_32fc_I(const Vok32fc* src, Vok32fc* srcDst, int len);
+VOK_API VokStatus voksAddC_16sc_Sfs(const Vok16sc* src, Vok16sc value, Vok16sc* dst, int len, int scale);
+VOK_API VokStatus voksAddC_16sc_ISfs(Vok16sc value, Vok16sc* srcDst, int len, int scale);
+VOK_API VokStatus voksAddC_32sc_Sfs(const Vok32sc* src, Vok32sc value, Vok32sc* dst, int len, int scale);
+VOK_API VokStatus voksAddC_32sc_ISfs(Vok32sc value, Vok32sc* srcDst, int len, int scale);
+VOK_API VokStatus voksAddC_32fc(const Vok32fc* src, Vok32fc value, Vok32fc* dst, int len);
+VOK_API VokStatus voksAddC_32fc_I(Vok32fc value, Vok32fc* srcDst, int len);
+VOK_API VokStatus voksSubC_16sc_Sfs(const Vok16sc* src, Vok16sc value, Vok16sc* dst, int len, int scale);
+VOK_API VokStatus voksSubC_16sc_ISfs(Vok16sc value, Vok16sc* srcDst, int len, int scale);
+VOK_API VokStatus voksSubC_32sc_Sfs(const Vok32sc* src, Vok32sc value, Vok32sc* dst, int len, int scale);
+VOK_API VokStatus voksSubC_32sc_ISfs(Vok32sc value, Vok32sc* srcDst, int len, int scale);
+VOK_API VokStatus voksSubC_32fc(const Vok32fc* src, Vok32fc value, Vok32fc* dst, int len);
+VOK_API VokStatus voksSubC_32fc_I(Vok32fc value, Vok32fc* srcDst, int len);
+VOK_API VokStatus voksMulC_16sc_Sfs(const Vok16sc* src, Vok16sc value, Vok16sc* dst, int len, int scale);
+VOK_API VokStatus voksMulC_16sc_ISfs(Vok16sc value, Vok16sc* srcDst, int len, int scale);
+VOK_API VokStatus voksMulC_32sc_Sfs(const Vok32sc* src, Vok32sc value, Vok32sc* dst, int len, int scale);
+VOK_API VokStatus voksMulC_32sc_ISfs(Vok32sc value, Vok32sc* srcDst, int len, int scale);
+VOK_API VokStatus voksMulC_32fc(const Vok32fc* src, Vok32fc value, Vok32fc* dst, int len);
+VOK_API VokStatus voksMulC_32fc_I(Vok32fc value, Vok32fc* srcDst, int len);
+VOK_API VokStatus voksDivC_16sc_Sfs(const Vok16sc* src, Vok16sc value, Vok16sc* dst, int len, int scale);
+VOK_API VokStatus voksDivC_16sc_ISfs(Vok16sc value, Vok16sc* srcDst, int len, int scale);
+VOK_API VokStatus voksDivC_32fc(const Vok32fc* src, Vok32fc value, Vok32fc* dst, int len);
+VOK_API VokStatus voksDivC_32fc_I(Vok32fc value, Vok32fc* srcDst, int len);
+
+/* ---- Vector move: copies and fills; from 512 KiB on they bypass the cache --- */
+VOK_API VokStatus voksCopy_8u(const Vok8u* src, Vok8u* dst, int len);
+VOK_API VokStatus voksCopy_32f(const Vok32f* src, Vok32f* dst, int len);
+VOK_API VokStatus voksSet_32s(Vok32s value, Vok32s* dst, int len);
+VOK_API VokStatus voksSet_32f(Vok32f value, Vok32f* dst, int len);
+VOK_API VokStatus voksZero_8u(Vok8u* dst, int len);
+VOK_API VokStatus voksZero_16s(Vok16s* dst, int len);
+VOK_API VokStatus voksZero_16sc(Vok16sc* dst, int len);
+VOK_API VokStatus voksZero_32f(Vok32f* dst, int len);
+
+/* ---- Vector conversion: roundMode 0 truncates, any other value rounds to
+   nearest with ties to even; results saturate, NaN to the maximum. */
+VOK_API VokStatus voksConvert_8u32f(const Vok8u* src, Vok32f* dst, int len);
+VOK_API VokStatus voksConvert_32s32f(const Vok32s* src, Vok32f* dst, int len);
+VOK_API VokStatus voksConvert_32f8u_Sfs(const Vok32f* src, Vok8u* dst, int len, VokRoundMode roundMode, int scale);
+VOK_API VokStatus voksConvert_32f16s_Sfs(const Vok32f* src, Vok16s* dst, int len, VokRoundMode roundMode, int scale);
+VOK_API VokStatus voksConvert_32f32s_Sfs(const Vok32f* src, Vok32s* dst, int len, VokRoundMode roundMode, int scale);
+
+/* ---- Vector reductions, in single precision unless the hint asks for more -- */
+VOK_API VokStatus voksDotProd_32f(const Vok32f* src1, const Vok32f* src2, int len, Vok32f* dp);
+VOK_API VokStatus voksMean_32f(const Vok32f* src, int len, Vok32f* mean, VokHint hint);
+VOK_API VokStatus voksNorm_L2_32f(const Vok32f* src, int len, Vok32f* norm);
+
+/* ---- Magnitude, phase (radians) and polar to cartesian --------------------- */
+VOK_API VokStatus voksMagnitude_16sc_Sfs(const Vok16sc* src, Vok16s* dst, int len, int scale);
+VOK_API VokStatus voksMagnitude_32sc_Sfs(const Vok32sc* src, Vok32s* dst, int len, int scale);
+VOK_API VokStatus voksMagnitude_32fc(const Vok32fc* src, Vok32f* dst, int len);
+VOK_API VokStatus voksPhase_16sc_Sfs(const Vok16sc* src, Vok16s* dst, int len, int scale);
+VOK_API VokStatus voksPhase_32sc_Sfs(const Vok32sc* src, Vok32s* dst, int len, int scale);
+VOK_API VokStatus voksPhase_32fc(const Vok32fc* src, Vok32f* dst, int len);
+VOK_API VokStatus voksPolarToCart_32fc(const Vok32f* mag, const Vok32f* phase, Vok32fc* dst, int len);
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif

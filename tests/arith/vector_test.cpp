@@ -1,0 +1,354 @@
+// The vector layer: scaled sums, the float shortcuts, moves, conversions,
+// reductions, magnitude, phase and polar to cartesian, against plain models
+// on every instruction set, plus the worked cases and bad input.
+#include <bit>
+#include <cfenv>
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+#include "vok_test.h"
+
+namespace {
+
+// Lengths around every vector size, and one past the streaming threshold.
+const std::vector<int> kLengths = {1, 2, 3, 7, 8, 15, 16, 17, 31, 33, 64, 100, 1031};
+
+template <typename T>
+std::vector<T> Random(std::mt19937& rng, int n) {
+  std::vector<T> v(n);
+  for (T& x : v) x = vok_test::Image<T>::RandomSample(rng);
+  return v;
+}
+
+std::vector<Vok32fc> RandomComplex(std::mt19937& rng, int n) {
+  std::vector<Vok32fc> v(n);
+  for (Vok32fc& c : v) c = {vok_test::Image<float>::RandomSample(rng), vok_test::Image<float>::RandomSample(rng)};
+  return v;
+}
+
+template <typename T>
+T ToEvenModel(int64_t x, int s) {
+  const long double v = std::nearbyint(std::ldexp(static_cast<long double>(x), -std::clamp(s, -100, 100)));
+  return vok_test::Saturate<T>(v > 1e18L ? int64_t{1} << 62 : v < -1e18L ? -(int64_t{1} << 62) : int64_t(v));
+}
+
+template <typename T>
+using ScaledFn = VokStatus (*)(const T*, const T*, T*, int, int);
+
+template <typename T>
+void CheckScaled(ScaledFn<T> add, ScaledFn<T> sub, const std::vector<int>& scales) {
+  std::mt19937 rng(31);
+  vok_test::ForEachTarget([&](const char*) {
+    for (int n : kLengths)
+      for (int s : scales) {
+        const auto a = Random<T>(rng, n), b = Random<T>(rng, n);
+        std::vector<T> sum(n), diff(n);
+        ASSERT_EQ(add(a.data(), b.data(), sum.data(), n, s), vokStatusOk);
+        ASSERT_EQ(sub(a.data(), b.data(), diff.data(), n, s), vokStatusOk);
+        for (int i = 0; i < n; ++i) {
+          ASSERT_EQ(sum[i], ToEvenModel<T>(int64_t{a[i]} + b[i], s)) << n << " " << s;
+          ASSERT_EQ(diff[i], ToEvenModel<T>(int64_t{b[i]} - a[i], s)) << n << " " << s;
+        }
+      }
+  });
+}
+
+TEST(VectorScaled, AddSub16s) { CheckScaled<Vok16s>(voksAdd_16s_Sfs, voksSub_16s_Sfs, {0, 1, 2, 16, 17, -1, -16, -40, INT32_MIN, INT32_MAX}); }
+TEST(VectorScaled, AddSub32s) { CheckScaled<Vok32s>(voksAdd_32s_Sfs, voksSub_32s_Sfs, {0, 1, 5, 32, 33, -1, -31, -40, INT32_MIN, INT32_MAX}); }
+
+// The complex vector forms are the rows of the C1 image forms: in particular
+// Sub and Div take the second source as minuend and dividend.
+TEST(VectorComplex, SameAsTheImageRows) {
+  std::mt19937 rng(32);
+  const int n = 37;
+  std::vector<Vok16sc> a(n), b(n), v(n), img(n);
+  for (int i = 0; i < n; ++i) {
+    a[i] = {Vok16s(rng() % 2001 - 1000), Vok16s(rng() % 2001 - 1000)};
+    b[i] = {Vok16s(rng() % 2001 - 1000), Vok16s(rng() % 2001 - 1000)};
+  }
+  const VokiSize row{n, 1};
+  const int step = n * 4;
+  using VecFn = VokStatus (*)(const Vok16sc*, const Vok16sc*, Vok16sc*, int, int);
+  using ImgFn = VokStatus (*)(const Vok16sc*, int, const Vok16sc*, int, Vok16sc*, int, VokiSize, int);
+  const std::pair<VecFn, ImgFn> pairs[] = {{voksAdd_16sc_Sfs, vokiAdd_16sc_C1RSfs},
+                                           {voksSub_16sc_Sfs, vokiSub_16sc_C1RSfs},
+                                           {voksMul_16sc_Sfs, vokiMul_16sc_C1RSfs},
+                                           {voksDiv_16sc_Sfs, vokiDiv_16sc_C1RSfs}};
+  for (auto [vec, image] : pairs) {
+    ASSERT_EQ(vec(a.data(), b.data(), v.data(), n, 3), image(a.data(), step, b.data(), step, img.data(), step, row, 3));
+    EXPECT_EQ(std::memcmp(v.data(), img.data(), n * 4), 0);
+  }
+  v = b;
+  ASSERT_EQ(voksSub_16sc_ISfs(a.data(), v.data(), n, 0), vokStatusOk);
+  ASSERT_EQ(voksSub_16sc_Sfs(a.data(), b.data(), img.data(), n, 0), vokStatusOk);
+  EXPECT_EQ(std::memcmp(v.data(), img.data(), n * 4), 0);
+  EXPECT_EQ(img[0].re, Vok16s(b[0].re - a[0].re));
+  EXPECT_EQ(voksDivC_16sc_Sfs(a.data(), Vok16sc{0, 0}, v.data(), n, 0), vokStatusDivideByZero);
+  Vok32fc tiny[1] = {{1, 1}};
+  EXPECT_EQ(voksDivC_32fc_I(Vok32fc{1e-30f, 0}, tiny, 1), vokStatusDivideByZero);
+}
+
+TEST(VectorFloat, ShortcutsOfTheConstantForms) {
+  std::vector<float> v = {1.0f, NAN, INFINITY, -2.0f}, out(4, 9.0f);
+  ASSERT_EQ(voksSubC_32f(v.data(), NAN, out.data(), 4), vokStatusOk);  // a copy
+  EXPECT_EQ(out[0], 1.0f);
+  EXPECT_EQ(out[3], -2.0f);
+  ASSERT_EQ(voksSubC_32f(v.data(), 0.5f, out.data(), 4), vokStatusOk);
+  EXPECT_EQ(out[3], -2.5f);
+  std::vector<float> same = v;
+  ASSERT_EQ(voksMulC_32f_I(NAN, same.data(), 4), vokStatusOk);
+  EXPECT_EQ(same[0], 1.0f);
+  ASSERT_EQ(voksMulC_32f_I(-0.0f, same.data(), 4), vokStatusOk);
+  for (float x : same) EXPECT_EQ(std::bit_cast<uint32_t>(x), 0u);
+  float image = NAN, imageOut = 1;
+  ASSERT_EQ(vokiMulC_32f_C1R(&image, 4, 0.0f, &imageOut, 4, VokiSize{1, 1}), vokStatusOk);
+  EXPECT_TRUE(std::isnan(imageOut));
+}
+
+TEST(VectorMove, CopySetZeroSmallAndPastTheCache) {
+  for (int n : {1, 33, 0x80000 / 4 + 13}) {
+    std::vector<uint8_t> buffer(4 * n + 64, 0xA5);
+    float* dst = reinterpret_cast<float*>(buffer.data() + 4);  // off the vector alignment
+    std::vector<float> src(n);
+    for (int i = 0; i < n; ++i) src[i] = float(i) - 7.5f;
+    ASSERT_EQ(voksCopy_32f(src.data(), dst, n), vokStatusOk);
+    EXPECT_EQ(std::memcmp(dst, src.data(), 4 * n), 0);
+    ASSERT_EQ(voksSet_32f(-1.5f, dst, n), vokStatusOk);
+    EXPECT_EQ(dst[n - 1], -1.5f);
+    EXPECT_EQ(dst[0], -1.5f);
+    ASSERT_EQ(voksZero_16sc(reinterpret_cast<Vok16sc*>(dst), n), vokStatusOk);
+    EXPECT_EQ(std::count(buffer.begin() + 4, buffer.begin() + 4 + 4 * n, 0), 4 * n);
+    EXPECT_EQ(buffer[3], 0xA5);
+    EXPECT_EQ(buffer[4 + 4 * n], 0xA5);
+    ASSERT_EQ(voksCopy_8u(reinterpret_cast<const Vok8u*>(src.data()), buffer.data() + 1, 4 * n - 1), vokStatusOk);
+    EXPECT_EQ(std::memcmp(buffer.data() + 1, src.data(), 4 * n - 1), 0);
+    EXPECT_EQ(buffer[0], 0xA5);
+    EXPECT_EQ(buffer[4 * n], 0);
+  }
+}
+
+TEST(VectorConvert, WorkedCases) {
+  const float in[] = {NAN, -1e30f, 2.5f, 3.5f, -2.5f, 300.0f, 3e9f, -NAN};
+  Vok8u u8[8];
+  Vok16s s16[8];
+  Vok32s s32[8];
+  ASSERT_EQ(voksConvert_32f8u_Sfs(in, u8, 8, vokRoundNear, 0), vokStatusOk);
+  EXPECT_EQ(u8[0], 255);
+  EXPECT_EQ(u8[1], 0);
+  EXPECT_EQ(u8[2], 2);
+  EXPECT_EQ(u8[3], 4);
+  EXPECT_EQ(u8[5], 255);
+  ASSERT_EQ(voksConvert_32f8u_Sfs(in, u8, 8, vokRoundZero, 0), vokStatusOk);
+  EXPECT_EQ(u8[2], 2);
+  EXPECT_EQ(u8[3], 3);
+  ASSERT_EQ(voksConvert_32f8u_Sfs(in, u8, 8, 7, 0), vokStatusOk);  // any non-zero rounds
+  EXPECT_EQ(u8[3], 4);
+  ASSERT_EQ(voksConvert_32f16s_Sfs(in, s16, 8, vokRoundNear, 0), vokStatusOk);
+  EXPECT_EQ(s16[0], 32767);
+  EXPECT_EQ(s16[1], -32768);
+  EXPECT_EQ(s16[4], -2);
+  ASSERT_EQ(voksConvert_32f32s_Sfs(in, s32, 8, vokRoundNear, 0), vokStatusOk);
+  EXPECT_EQ(s32[0], 0x7FFFFFFF);
+  EXPECT_EQ(s32[6], 0x7FFFFFFF);
+  EXPECT_EQ(s32[1], INT32_MIN);
+  EXPECT_EQ(s32[7], INT32_MIN);  // NaN with the sign bit
+  // Scale factors: 2.5 * 2 = 5; 2^-200 is zero in single precision, 0 * NaN is NaN.
+  ASSERT_EQ(voksConvert_32f16s_Sfs(in, s16, 8, vokRoundNear, -1), vokStatusOk);
+  EXPECT_EQ(s16[2], 5);
+  EXPECT_EQ(s16[3], 7);
+  ASSERT_EQ(voksConvert_32f16s_Sfs(in, s16, 8, vokRoundNear, 200), vokStatusOk);
+  EXPECT_EQ(s16[5], 0);
+  EXPECT_EQ(s16[1], 0);
+}
+
+// The caller's rounding state neither changes the result nor is lost.
+TEST(VectorConvert, RoundingModeIsTheCallsOwn) {
+  std::mt19937 rng(33);
+  vok_test::ForEachTarget([&](const char*) {
+    for (int n : kLengths) {
+      std::vector<float> in(n);
+      std::vector<Vok32s> ints(n);
+      for (int i = 0; i < n; ++i) {
+        in[i] = float(int(rng() % 2001) - 1000) / 4;  // quarters and halves
+        ints[i] = int32_t(rng());
+      }
+      std::vector<Vok16s> out(n);
+      std::vector<float> back(n);
+      std::fesetround(FE_UPWARD);
+      ASSERT_EQ(voksConvert_32f16s_Sfs(in.data(), out.data(), n, vokRoundNear, 1), vokStatusOk);
+      ASSERT_EQ(voksConvert_32s32f(ints.data(), back.data(), n), vokStatusOk);
+      EXPECT_EQ(std::fegetround(), FE_UPWARD);
+      std::fesetround(FE_TONEAREST);
+      for (int i = 0; i < n; ++i) {
+        ASSERT_EQ(out[i], Vok16s(std::nearbyint(in[i] * 0.5f))) << in[i];
+        ASSERT_EQ(back[i], float(ints[i])) << ints[i];
+      }
+      std::vector<float> fromBytes(n);
+      std::vector<Vok8u> bytes(n);
+      for (auto& b : bytes) b = Vok8u(rng());
+      ASSERT_EQ(voksConvert_8u32f(bytes.data(), fromBytes.data(), n), vokStatusOk);
+      for (int i = 0; i < n; ++i) ASSERT_EQ(fromBytes[i], float(bytes[i]));
+    }
+  });
+}
+
+TEST(VectorReduce, SumsInSinglePrecision) {
+  std::mt19937 rng(34);
+  vok_test::ForEachTarget([&](const char*) {
+    for (int n : kLengths) {
+      const auto a = Random<float>(rng, n), b = Random<float>(rng, n);
+      double dot = 0, squares = 0, sum = 0, magnitude = 0;
+      for (int i = 0; i < n; ++i) {
+        dot += double(a[i]) * b[i];
+        squares += double(a[i]) * a[i];
+        sum += a[i];
+        magnitude += std::fabs(double(a[i]) * b[i]);
+      }
+      float got = 0, norm = 0, fast = 0, accurate = 0;
+      ASSERT_EQ(voksDotProd_32f(a.data(), b.data(), n, &got), vokStatusOk);
+      EXPECT_NEAR(got, dot, magnitude * 1e-6);
+      ASSERT_EQ(voksNorm_L2_32f(a.data(), n, &norm), vokStatusOk);
+      EXPECT_NEAR(norm, std::sqrt(squares), std::sqrt(squares) * 1e-6);
+      ASSERT_EQ(voksMean_32f(a.data(), n, &fast, vokHintFast), vokStatusOk);
+      ASSERT_EQ(voksMean_32f(a.data(), n, &accurate, vokHintAccurate), vokStatusOk);
+      EXPECT_EQ(accurate, float(sum / n));
+      EXPECT_NEAR(fast, sum / n, 1000.0 * 1e-6);
+    }
+  });
+}
+
+TEST(VectorPolar, MagnitudePhaseAndBack) {
+  std::mt19937 rng(35);
+  vok_test::ForEachTarget([&](const char*) {
+    for (int n : kLengths) {
+      const auto src = RandomComplex(rng, n);
+      std::vector<float> mag(n), phase(n);
+      std::vector<Vok32fc> back(n);
+      ASSERT_EQ(voksMagnitude_32fc(src.data(), mag.data(), n), vokStatusOk);
+      ASSERT_EQ(voksPhase_32fc(src.data(), phase.data(), n), vokStatusOk);
+      ASSERT_EQ(voksPolarToCart_32fc(mag.data(), phase.data(), back.data(), n), vokStatusOk);
+      for (int i = 0; i < n; ++i) {
+        const float re = src[i].re, im = src[i].im;
+        ASSERT_EQ(mag[i], std::sqrt(re * re + im * im));
+        ASSERT_NEAR(phase[i], std::atan2(im, re), 4e-7);
+        ASSERT_NEAR(back[i].re, re, mag[i] * 1e-6);
+        ASSERT_NEAR(back[i].im, im, mag[i] * 1e-6);
+      }
+    }
+    // Phases far from the first turn keep their accuracy.
+    std::vector<float> ones(64, 2.0f), angles(64);
+    for (int i = 0; i < 64; ++i) angles[i] = -1000.0f + 31.25f * float(i);
+    std::vector<Vok32fc> out(64);
+    ASSERT_EQ(voksPolarToCart_32fc(ones.data(), angles.data(), out.data(), 64), vokStatusOk);
+    for (int i = 0; i < 64; ++i) {
+      ASSERT_NEAR(out[i].re, 2 * std::cos(double(angles[i])), 2e-6) << angles[i];
+      ASSERT_NEAR(out[i].im, 2 * std::sin(double(angles[i])), 2e-6) << angles[i];
+    }
+  });
+}
+
+TEST(VectorPolar, PhaseConventionsOfAtan2) {
+  const float inf = INFINITY, pi = std::numbers::pi_v<float>;
+  const Vok32fc src[] = {{-1, 0}, {0, 0}, {-0.0f, 0}, {0, -0.0f}, {-0.0f, -0.0f}, {0, 3},
+                         {inf, 1}, {-inf, 1}, {1, inf}, {inf, inf}, {-inf, -inf}, {NAN, 1}, {2, -2}};
+  const int n = std::size(src);
+  std::vector<float> phase(n);
+  vok_test::ForEachTarget([&](const char*) {
+    ASSERT_EQ(voksPhase_32fc(src, phase.data(), n), vokStatusOk);
+    for (int i = 0; i < n; ++i) {
+      const float want = std::atan2(src[i].im, src[i].re);
+      if (std::isnan(want)) {
+        EXPECT_TRUE(std::isnan(phase[i]));
+      } else {
+        EXPECT_NEAR(phase[i], want, 4e-7) << i;
+        EXPECT_EQ(std::signbit(phase[i]), std::signbit(want)) << i;
+      }
+    }
+    EXPECT_EQ(phase[0], pi);
+    EXPECT_EQ(std::bit_cast<uint32_t>(phase[1]), 0u);
+  });
+}
+
+// The exact root: sqrt(re^2 + im^2) * 2^-s to nearest, ties to even.
+Vok16s MagnitudeModel(Vok16sc c, int s) {
+  const long double m = (long double)c.re * c.re + (long double)c.im * c.im;
+  const long double v = std::nearbyint(std::ldexp(std::sqrt(m), -s));
+  return Vok16s(std::min<long double>(v, 32767));
+}
+
+TEST(VectorIntegerPolar, MagnitudeIsExact) {
+  const Vok16sc worst{-32768, -32768}, ties[] = {{3, 4}, {6, 8}, {5, 12}, {-7, 24}};
+  Vok16s out[4];
+  ASSERT_EQ(voksMagnitude_16sc_Sfs(&worst, out, 1, 0), vokStatusOk);
+  EXPECT_EQ(out[0], 32767);
+  ASSERT_EQ(voksMagnitude_16sc_Sfs(ties, out, 4, 1), vokStatusOk);
+  EXPECT_EQ(out[0], 2);  // 2.5 to even
+  EXPECT_EQ(out[1], 5);
+  EXPECT_EQ(out[2], 6);  // 6.5 to even
+  EXPECT_EQ(out[3], 12);  // 12.5 to even
+  std::mt19937 rng(36);
+  for (int s : {-15, -14, -3, 0, 1, 2, 7, 15, 16, 17}) {
+    std::vector<Vok16sc> src(500);
+    for (auto& c : src) c = {Vok16s(rng()), Vok16s(rng() % 2 ? rng() : rng() % 50)};
+    std::vector<Vok16s> got(500);
+    ASSERT_EQ(voksMagnitude_16sc_Sfs(src.data(), got.data(), 500, s), vokStatusOk);
+    for (int i = 0; i < 500; ++i) ASSERT_EQ(got[i], MagnitudeModel(src[i], s)) << s;
+  }
+  const Vok32sc big[] = {{INT32_MIN, INT32_MIN}, {3, 4}, {0, 0}};
+  Vok32s out32[3];
+  ASSERT_EQ(voksMagnitude_32sc_Sfs(big, out32, 3, 0), vokStatusOk);
+  EXPECT_EQ(out32[0], 2147483647);
+  EXPECT_EQ(out32[1], 5);
+  ASSERT_EQ(voksMagnitude_32sc_Sfs(big, out32, 3, 1), vokStatusOk);
+  EXPECT_EQ(out32[0], 1518500250);  // 2^30.5
+  EXPECT_EQ(out32[1], 2);
+  ASSERT_EQ(voksMagnitude_32sc_Sfs(big, out32, 3, -31), vokStatusOk);
+  EXPECT_EQ(out32[1], 2147483647);
+  EXPECT_EQ(out32[2], 0);
+}
+
+TEST(VectorIntegerPolar, PhaseByScaleFactor) {
+  const Vok16sc src[] = {{100, 50}, {0, 5}, {0, -5}, {0, 0}, {-3, 0}, {-100, -1}};
+  Vok16s out[6];
+  ASSERT_EQ(voksPhase_16sc_Sfs(src, out, 6, 0), vokStatusOk);  // the coarse form
+  EXPECT_EQ(out[0], 1);
+  EXPECT_EQ(out[1], 2);
+  EXPECT_EQ(out[2], -2);
+  EXPECT_EQ(out[3], 0);
+  EXPECT_EQ(out[4], 3);
+  EXPECT_EQ(out[5], -3);
+  ASSERT_EQ(voksPhase_16sc_Sfs(src, out, 6, 2), vokStatusOk);
+  for (Vok16s v : out) EXPECT_EQ(v, 0);
+  for (int s : {1, -1, -12, -28, -29, -40}) {
+    Vok16s p16[6];
+    Vok32s p32[6];
+    Vok32sc wide[6];
+    for (int i = 0; i < 6; ++i) wide[i] = {src[i].re, src[i].im};
+    ASSERT_EQ(voksPhase_16sc_Sfs(src, p16, 6, s), vokStatusOk);
+    ASSERT_EQ(voksPhase_32sc_Sfs(wide, p32, 6, s), vokStatusOk);
+    for (int i = 0; i < 6; ++i) {
+      const double want = std::ldexp(std::atan2(double(src[i].im), double(src[i].re)), -s);
+      EXPECT_NEAR(p16[i], std::clamp(want, -32768.0, 32767.0), 1.0) << s << " " << i;
+      EXPECT_NEAR(p32[i], std::clamp(want, -2147483648.0, 2147483647.0), 1.0) << s << " " << i;
+    }
+  }
+}
+
+TEST(VectorChecks, NullThenLength) {
+  float f[4] = {};
+  Vok16sc c[4] = {};
+  EXPECT_EQ(voksAdd_32f(nullptr, f, f, 0), vokStatusNullPointer);
+  EXPECT_EQ(voksAdd_32f(f, f, f, 0), vokStatusBadSize);
+  EXPECT_EQ(voksMulC_32f_I(1.0f, f, -1), vokStatusBadSize);
+  EXPECT_EQ(voksSubC_32f_I(0.0f, nullptr, 4), vokStatusNullPointer);
+  EXPECT_EQ(voksDivC_16sc_Sfs(c, Vok16sc{0, 0}, c, 0, 0), vokStatusBadSize);
+  EXPECT_EQ(voksDotProd_32f(f, f, 4, nullptr), vokStatusNullPointer);
+  EXPECT_EQ(voksMean_32f(f, 0, f, vokHintNone), vokStatusBadSize);
+  EXPECT_EQ(voksConvert_32f8u_Sfs(f, nullptr, 4, 0, 0), vokStatusNullPointer);
+  EXPECT_EQ(voksZero_8u(nullptr, 0), vokStatusNullPointer);
+  EXPECT_EQ(voksPolarToCart_32fc(f, f, nullptr, 1), vokStatusNullPointer);
+  EXPECT_EQ(voksDiv_16sc_ISfs(c, c, 1, 0), vokWarnDivideByZero);
+}
+
+}  // namespace
