@@ -1,16 +1,13 @@
 // The resize core: checks, interpolation fall-backs, effective destination
-// size, coordinate tables and the split of destination rows into bands.
-// Positions are 64-bit floats built by repeated addition, as the tables of
-// every other axis are, so that a column's position does not depend on how
-// it was reached.
-#include <omp.h>
-
+// size, coordinate tables, and the destination rows shared among threads.
+// Positions are 64-bit floats built by repeated addition of the step, never
+// as i x step, since the last bits decide which node a position falls on.
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 #include "foundation/check.h"
 #include "foundation/memory.h"
+#include "foundation/parallel.h"
 #include "geometry/resize.h"
 
 namespace vok {
@@ -214,41 +211,27 @@ ResizeKind FallBack(ResizeKind kind, VokiSize image) {
   return kind;
 }
 
-// Runs every plane over bands of destination rows, one band per thread when
-// the image is large enough to pay for the threads. Scratch for all bands
-// is taken before any row is written.
+// Runs every plane over the destination rows: on the calling thread for small
+// images, else in slabs with one scratch slice per thread, all allocated
+// before any row is written.
 template <typename T>
-VokStatus RunBands(const ResizeTables& tables, const ResizeRequest& request,
-                   const uint8_t* const* srcOrigins) {
+VokStatus RunRows(const ResizeTables& tables, const ResizeRequest& request,
+                  const uint8_t* const* srcOrigins) {
   const int height = tables.y.count;
-  const int64_t samples = int64_t{tables.x.count} * height * request.channels;
-  const int threads = omp_get_max_threads();
-  const int bands = samples < (1 << 16) || threads < 2
-                        ? 1
-                        : std::max(1, std::min(threads, height / 16));
-  const size_t bytes =
-      (ResizeScratchBytes(tables, request.channels, sizeof(T)) + 63) & ~size_t{63};
-  Scratch<uint8_t> scratch;
-  if (bytes > 0) {
-    scratch = AllocateScratch<uint8_t>(bytes * bands);
-    if (!scratch) return vokStatusNoMemory;
-  }
-  auto band = [&](int b) {
-    const int y0 = int(int64_t{height} * b / bands);
-    const int y1 = int(int64_t{height} * (b + 1) / bands);
+  const size_t bytes = ResizeScratchBytes(tables, request.channels, sizeof(T));
+  auto rows = [&](int y0, int y1, uint8_t* scratch) {
     for (int p = 0; p < request.planes; ++p) {
       const ResizePlane plane{srcOrigins[p], request.srcStep, request.dst[p],
                               request.dstStep, request.channels,
                               request.keepAlpha};
-      ResizeRows<T>(tables, plane, y0, y1, scratch.get() + bytes * b);
+      ResizeRows<T>(tables, plane, y0, y1, scratch);
     }
   };
-  if (bands == 1) {
-    band(0);
-  } else {
-#pragma omp parallel for schedule(static) num_threads(bands)
-    for (int b = 0; b < bands; ++b) band(b);
-  }
+  const int64_t samples = int64_t{tables.x.count} * height * request.channels;
+  if (samples >= (1 << 16)) return SlabsWithScratchBefore(height, bytes, rows);
+  Scratch<uint8_t> scratch = AllocateScratch<uint8_t>(bytes);
+  if (bytes > 0 && !scratch) return vokStatusNoMemory;
+  rows(0, height, scratch.get());
   return vokStatusOk;
 }
 
@@ -326,7 +309,7 @@ VokStatus ResizeCore(const ResizeRequest& q) {
     BuildSpans(ay.count, sy, roiH, false, spans.get() + ax.count);
     tables.super.columns = spans.get();
     tables.super.rows = spans.get() + ax.count;
-    return RunBands<T>(tables, q, origins);
+    return RunRows<T>(tables, q, origins);
   }
 
   tables.kind = FallBack(KindOf(q.interpolation), q.srcSize);
@@ -351,7 +334,7 @@ VokStatus ResizeCore(const ResizeRequest& q) {
              !BuildSamples(tables.kind, tables.x, q.channels, samples, tables.samples)) {
     return vokStatusNoMemory;
   }
-  return RunBands<T>(tables, q, origins);
+  return RunRows<T>(tables, q, origins);
 }
 
 template VokStatus ResizeCore<Vok8u>(const ResizeRequest&);

@@ -38,6 +38,19 @@ T* DstRow(const ResizePlane& p, int y) {
   return RowAt(static_cast<T*>(p.dst), p.dstStep, y);
 }
 
+// Samples of the caller's images need no alignment, so single samples move
+// through memcpy.
+template <typename T>
+HWY_INLINE T LoadSample(const T* p) {
+  T v;
+  std::memcpy(&v, p, sizeof(T));
+  return v;
+}
+template <typename T>
+HWY_INLINE void StoreSample(T* p, T v) {
+  std::memcpy(p, &v, sizeof(T));
+}
+
 // Writes n samples of a destination row: whole vectors from vec(i), the rest
 // from one(i). AC4 alpha keeps its value.
 template <class D, typename T, class Vec, class One>
@@ -53,7 +66,7 @@ HWY_INLINE void WriteRow(D d, T* out, size_t n, bool keepAlpha, const Vec& vec,
     for (; i + lanes <= n; i += lanes) hn::StoreU(vec(i), d, out + i);
   }
   for (; i < n; ++i)
-    if (!keepAlpha || (i & 3) != 3) out[i] = one(i);
+    if (!keepAlpha || (i & 3) != 3) StoreSample(out + i, one(i));
 }
 
 // Lanes of a float vector rounded and saturated to an integer sample type,
@@ -133,7 +146,7 @@ void NearestRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1) {
     const T* s = SrcRow<T>(p, t.y.index[y]);
     for (int j = 0; j < t.x.count; ++j) {
       const T* from = s + ptrdiff_t{t.x.index[j]} * S;
-      for (int c = 0; c < kCopied; ++c) out[j * S + c] = from[c];
+      std::memcpy(out + j * S, from, kCopied * sizeof(T));
     }
   }
 }
@@ -141,8 +154,6 @@ void NearestRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1) {
 // ---- Linear ----------------------------------------------------------------
 
 // 8u lines keep six fraction bits; 16u lines keep the full range.
-template <typename T>
-constexpr int kLinearShift = sizeof(T) == 1 ? 8 : 14;
 template <typename T>
 constexpr int kLinearOutShift = sizeof(T) == 1 ? 20 : 14;
 
@@ -164,7 +175,7 @@ void WidenRow(const T* s, size_t count, W* wide) {
       if constexpr (std::is_same_v<W, float>) hn::StoreU(hn::ConvertTo(dw, v), dw, wide + i);
       else hn::StoreU(v, dw, wide + i);
     }
-    for (; i < count; ++i) wide[i] = static_cast<W>(s[i]);
+    for (; i < count; ++i) wide[i] = static_cast<W>(LoadSample(s + i));
   }
 }
 
@@ -181,7 +192,7 @@ void LinearLine(const T* s, const ResizeSamples& x, size_t n, void* scratch, L* 
     if constexpr (std::is_same_v<T, float>) {
       line[i] = a + (b - a) * x.fraction[i];
     } else {
-      constexpr int shift = kLinearShift<T>;
+      constexpr int shift = sizeof(T) == 1 ? 8 : 14;
       const int32_t f = x.fixed[i];
       const int32_t h = (a * (kLinearOne - f) + b * f + (1 << (shift - 1))) >> shift;
       line[i] = static_cast<L>(std::clamp<int32_t>(h, 0, 65535));
@@ -294,10 +305,10 @@ void CubicColumn(const float* const* l, const ResizeAxis& y, int row, T* out,
     const size_t i = keepAlpha ? r / 3 * 4 + r % 3 : r;
     const float v = Cubic<true>(l[0][i], l[1][i], l[2][i], l[3][i], t);
     if constexpr (std::is_same_v<T, float>) {
-      out[i] = v;
+      StoreSample(out + i, v);
     } else {
       const double truncated = std::trunc(double(v) + kEpsilon);
-      out[i] = static_cast<T>(std::clamp(truncated, 0.0, double(kMaxOf<T>)));
+      StoreSample(out + i, static_cast<T>(std::clamp(truncated, 0.0, double(kMaxOf<T>))));
     }
   }
 }
@@ -422,7 +433,7 @@ void AccumulateRow(Acc* acc, const T* row, size_t n, float weight) {
     const hn::Rebind<T, decltype(da)> dt;
     for (; i + lanes <= n; i += lanes)
       hn::StoreU(hn::Add(hn::LoadU(da, acc + i), hn::PromoteTo(da, hn::LoadU(dt, row + i))), da, acc + i);
-    for (; i < n; ++i) acc[i] += row[i];
+    for (; i < n; ++i) acc[i] += LoadSample(row + i);
   } else {
     auto load = [&](size_t at) {
       if constexpr (std::is_same_v<T, float>) {
@@ -435,12 +446,12 @@ void AccumulateRow(Acc* acc, const T* row, size_t n, float weight) {
     if (weight == 1.0f) {
       for (; i + lanes <= n; i += lanes)
         hn::StoreU(hn::Add(hn::LoadU(da, acc + i), load(i)), da, acc + i);
-      for (; i < n; ++i) acc[i] = acc[i] + float(row[i]);
+      for (; i < n; ++i) acc[i] = acc[i] + float(LoadSample(row + i));
     } else {
       const auto vw = hn::Set(da, weight);
       for (; i + lanes <= n; i += lanes)
         hn::StoreU(hn::Add(hn::LoadU(da, acc + i), hn::Mul(vw, load(i))), da, acc + i);
-      for (; i < n; ++i) acc[i] = acc[i] + weight * float(row[i]);
+      for (; i < n; ++i) acc[i] = acc[i] + weight * float(LoadSample(row + i));
     }
   }
 }
@@ -476,9 +487,10 @@ void SuperRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1, Acc*
         if (cols.tail != 0) sum = sum + Weighted(acc[cols.end * S + c], cols.tail);
         const double scaled = double(sum) * plan.scale;
         if constexpr (std::is_same_v<T, float>) {
-          out[j * S + c] = static_cast<float>(scaled);
+          StoreSample(out + j * S + c, static_cast<float>(scaled));
         } else {
-          out[j * S + c] = static_cast<T>(std::clamp(std::trunc(scaled + 0.5), 0.0, double(kMaxOf<T>)));
+          StoreSample(out + j * S + c,
+                      static_cast<T>(std::clamp(std::trunc(scaled + 0.5), 0.0, double(kMaxOf<T>))));
         }
       }
     }

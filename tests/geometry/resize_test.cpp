@@ -485,6 +485,7 @@ TEST(Resize, SmallImagesFallBack) {
               vokStatusOk);
     return dst;
   };
+  EXPECT_EQ(run(1, 1, kCubic, 1).firstDifference(run(1, 1, kNearest, 1)), "");
   EXPECT_EQ(run(1, 7, kLinear, 1).firstDifference(run(1, 7, kNearest, 1)), "");
   EXPECT_EQ(run(7, 1, kLanczos, 1).firstDifference(run(7, 1, kNearest, 1)), "");
   EXPECT_EQ(run(3, 3, kCubic, 2).firstDifference(run(3, 3, kLinear, 2)), "");
