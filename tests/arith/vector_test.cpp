@@ -130,36 +130,24 @@ TEST(VectorMove, CopySetZeroSmallAndPastTheCache) {
 
 TEST(VectorConvert, WorkedCases) {
   const float in[] = {NAN, -1e30f, 2.5f, 3.5f, -2.5f, 300.0f, 3e9f, -NAN};
-  Vok8u u8[8];
-  Vok16s s16[8];
-  Vok32s s32[8];
-  ASSERT_EQ(voksConvert_32f8u_Sfs(in, u8, 8, vokRoundNear, 0), vokStatusOk);
-  EXPECT_EQ(u8[0], 255);
-  EXPECT_EQ(u8[1], 0);
-  EXPECT_EQ(u8[2], 2);
-  EXPECT_EQ(u8[3], 4);
-  EXPECT_EQ(u8[5], 255);
-  ASSERT_EQ(voksConvert_32f8u_Sfs(in, u8, 8, vokRoundZero, 0), vokStatusOk);
-  EXPECT_EQ(u8[2], 2);
-  EXPECT_EQ(u8[3], 3);
-  ASSERT_EQ(voksConvert_32f8u_Sfs(in, u8, 8, 7, 0), vokStatusOk);  // any non-zero rounds
-  EXPECT_EQ(u8[3], 4);
-  ASSERT_EQ(voksConvert_32f16s_Sfs(in, s16, 8, vokRoundNear, 0), vokStatusOk);
-  EXPECT_EQ(s16[0], 32767);
-  EXPECT_EQ(s16[1], -32768);
-  EXPECT_EQ(s16[4], -2);
-  ASSERT_EQ(voksConvert_32f32s_Sfs(in, s32, 8, vokRoundNear, 0), vokStatusOk);
-  EXPECT_EQ(s32[0], 0x7FFFFFFF);
-  EXPECT_EQ(s32[6], 0x7FFFFFFF);
-  EXPECT_EQ(s32[1], INT32_MIN);
-  EXPECT_EQ(s32[7], INT32_MIN);  // NaN with the sign bit
-  // Scale factors: 2.5 * 2 = 5; 2^-200 is zero in single precision, 0 * NaN is NaN.
-  ASSERT_EQ(voksConvert_32f16s_Sfs(in, s16, 8, vokRoundNear, -1), vokStatusOk);
-  EXPECT_EQ(s16[2], 5);
-  EXPECT_EQ(s16[3], 7);
-  ASSERT_EQ(voksConvert_32f16s_Sfs(in, s16, 8, vokRoundNear, 200), vokStatusOk);
-  EXPECT_EQ(s16[5], 0);
-  EXPECT_EQ(s16[1], 0);
+  const auto run = [&](auto convert, auto sample, VokRoundMode mode, int scale) {
+    decltype(sample) out[8];
+    EXPECT_EQ(convert(in, out, 8, mode, scale), vokStatusOk);
+    return std::vector<int64_t>(out, out + 8);
+  };
+  using V = std::vector<int64_t>;
+  EXPECT_EQ(run(voksConvert_32f8u_Sfs, Vok8u{}, vokRoundNear, 0), (V{255, 0, 2, 4, 0, 255, 255, 255}));
+  EXPECT_EQ(run(voksConvert_32f8u_Sfs, Vok8u{}, vokRoundZero, 0), (V{255, 0, 2, 3, 0, 255, 255, 255}));
+  EXPECT_EQ(run(voksConvert_32f8u_Sfs, Vok8u{}, 7, 0), (V{255, 0, 2, 4, 0, 255, 255, 255}));
+  EXPECT_EQ(run(voksConvert_32f16s_Sfs, Vok16s{}, vokRoundNear, 0),
+            (V{32767, -32768, 2, 4, -2, 300, 32767, 32767}));
+  EXPECT_EQ(run(voksConvert_32f32s_Sfs, Vok32s{}, vokRoundNear, 0),
+            (V{INT32_MAX, INT32_MIN, 2, 4, -2, 300, INT32_MAX, INT32_MIN}));
+  EXPECT_EQ(run(voksConvert_32f16s_Sfs, Vok16s{}, vokRoundNear, -1),
+            (V{32767, -32768, 5, 7, -5, 600, 32767, 32767}));
+  // 2^-200 is zero in single precision, and zero times NaN is NaN.
+  EXPECT_EQ(run(voksConvert_32f16s_Sfs, Vok16s{}, vokRoundNear, 200),
+            (V{32767, 0, 0, 0, 0, 0, 0, 32767}));
 }
 
 // The caller's rounding state neither changes the result nor is lost.
@@ -278,15 +266,12 @@ Vok16s MagnitudeModel(Vok16sc c, int s) {
 }
 
 TEST(VectorIntegerPolar, MagnitudeIsExact) {
-  const Vok16sc worst{-32768, -32768}, ties[] = {{3, 4}, {6, 8}, {5, 12}, {-7, 24}};
-  Vok16s out[4];
-  ASSERT_EQ(voksMagnitude_16sc_Sfs(&worst, out, 1, 0), vokStatusOk);
-  EXPECT_EQ(out[0], 32767);
-  ASSERT_EQ(voksMagnitude_16sc_Sfs(ties, out, 4, 1), vokStatusOk);
-  EXPECT_EQ(out[0], 2);  // 2.5 to even
-  EXPECT_EQ(out[1], 5);
-  EXPECT_EQ(out[2], 6);  // 6.5 to even
-  EXPECT_EQ(out[3], 12);  // 12.5 to even
+  // (-32768, -32768) saturates; 2.5, 6.5 and 12.5 go to even.
+  const Vok16sc ties[] = {{-32768, -32768}, {3, 4}, {6, 8}, {5, 12}, {-7, 24}};
+  Vok16s out[5];
+  ASSERT_EQ(voksMagnitude_16sc_Sfs(ties, out, 1, 0), vokStatusOk);
+  ASSERT_EQ(voksMagnitude_16sc_Sfs(ties + 1, out + 1, 4, 1), vokStatusOk);
+  EXPECT_EQ(std::vector<int>(out, out + 5), (std::vector<int>{32767, 2, 5, 6, 12}));
   std::mt19937 rng(36);
   for (int s : {-15, -14, -3, 0, 1, 2, 7, 15, 16, 17}) {
     std::vector<Vok16sc> src(500);
@@ -296,30 +281,23 @@ TEST(VectorIntegerPolar, MagnitudeIsExact) {
     for (int i = 0; i < 500; ++i) ASSERT_EQ(got[i], MagnitudeModel(src[i], s)) << s;
   }
   const Vok32sc big[] = {{INT32_MIN, INT32_MIN}, {3, 4}, {0, 0}};
-  Vok32s out32[3];
-  ASSERT_EQ(voksMagnitude_32sc_Sfs(big, out32, 3, 0), vokStatusOk);
-  EXPECT_EQ(out32[0], 2147483647);
-  EXPECT_EQ(out32[1], 5);
-  ASSERT_EQ(voksMagnitude_32sc_Sfs(big, out32, 3, 1), vokStatusOk);
-  EXPECT_EQ(out32[0], 1518500250);  // 2^30.5
-  EXPECT_EQ(out32[1], 2);
-  ASSERT_EQ(voksMagnitude_32sc_Sfs(big, out32, 3, -31), vokStatusOk);
-  EXPECT_EQ(out32[1], 2147483647);
-  EXPECT_EQ(out32[2], 0);
+  const auto magnitudes = [&](int scale) {
+    Vok32s m[3];
+    EXPECT_EQ(voksMagnitude_32sc_Sfs(big, m, 3, scale), vokStatusOk);
+    return std::vector<int64_t>(m, m + 3);
+  };
+  EXPECT_EQ(magnitudes(0), (std::vector<int64_t>{INT32_MAX, 5, 0}));
+  EXPECT_EQ(magnitudes(1), (std::vector<int64_t>{1518500250, 2, 0}));  // 2^30.5
+  EXPECT_EQ(magnitudes(-31), (std::vector<int64_t>{INT32_MAX, INT32_MAX, 0}));
 }
 
 TEST(VectorIntegerPolar, PhaseByScaleFactor) {
   const Vok16sc src[] = {{100, 50}, {0, 5}, {0, -5}, {0, 0}, {-3, 0}, {-100, -1}};
   Vok16s out[6];
   ASSERT_EQ(voksPhase_16sc_Sfs(src, out, 6, 0), vokStatusOk);  // the coarse form
-  EXPECT_EQ(out[0], 1);
-  EXPECT_EQ(out[1], 2);
-  EXPECT_EQ(out[2], -2);
-  EXPECT_EQ(out[3], 0);
-  EXPECT_EQ(out[4], 3);
-  EXPECT_EQ(out[5], -3);
+  EXPECT_EQ(std::vector<int>(out, out + 6), (std::vector<int>{1, 2, -2, 0, 3, -3}));
   ASSERT_EQ(voksPhase_16sc_Sfs(src, out, 6, 2), vokStatusOk);
-  for (Vok16s v : out) EXPECT_EQ(v, 0);
+  EXPECT_EQ(std::vector<int>(out, out + 6), std::vector<int>(6, 0));
   for (int s : {1, -1, -12, -28, -29, -40}) {
     Vok16s p16[6];
     Vok32s p32[6];
