@@ -69,19 +69,14 @@ HWY_INLINE void WriteRow(D d, T* out, size_t n, bool keepAlpha, const Vec& vec,
     if (!keepAlpha || (i & 3) != 3) StoreSample(out + i, one(i));
 }
 
-// Lanes of a float vector rounded and saturated to an integer sample type,
-// or left as they are for float samples.
+// Float lanes rounded to nearest with ties to even and saturated to an
+// integer sample type.
 template <typename T, class VF>
-HWY_INLINE auto FloatToSample(VF v) {
+HWY_INLINE auto RoundToSample(VF v) {
   const hn::ScalableTag<float> df;
-  if constexpr (std::is_same_v<T, float>) {
-    return v;
-  } else {
-    const hn::ScalableTag<int32_t> di;
-    const auto clamped = hn::Min(hn::Max(hn::Round(v), hn::Zero(df)),
-                                 hn::Set(df, kMaxOf<T>));
-    return SaturatingNarrow(hn::Rebind<T, decltype(di)>(), hn::ConvertTo(di, clamped));
-  }
+  const hn::ScalableTag<int32_t> di;
+  const auto clamped = hn::Min(hn::Max(hn::Round(v), hn::Zero(df)), hn::Set(df, kMaxOf<T>));
+  return SaturatingNarrow(hn::Rebind<T, decltype(di)>(), hn::ConvertTo(di, clamped));
 }
 
 // ---- Line cache ------------------------------------------------------------
@@ -153,13 +148,14 @@ void NearestRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1) {
 
 // ---- Linear ----------------------------------------------------------------
 
-// 8u lines keep six fraction bits; 16u lines keep the full range.
+// The vertical blend drops the 14 weight bits, and for 8u also the six
+// fraction bits that its lines keep.
 template <typename T>
 constexpr int kLinearOutShift = sizeof(T) == 1 ? 20 : 14;
 
-// Source pixels [first, last] of a row in 32-bit lanes, where the vector
-// horizontal passes gather their nodes: int32 for the fixed-point linear
-// pass, float for the rest.
+// Source pixels [first, last] of a row in 32-bit lanes, where the horizontal
+// passes read their nodes: int32 for the fixed-point linear pass, float for
+// the rest.
 template <typename W, typename T>
 void WidenRow(const T* s, size_t count, W* wide) {
   if constexpr (std::is_same_v<T, float>) {
@@ -182,6 +178,7 @@ void WidenRow(const T* s, size_t count, W* wide) {
 template <typename T>
 using WideOf = std::conditional_t<std::is_same_v<T, float>, float, int32_t>;
 
+// 8u lines keep six fraction bits (>> 8), 16u lines the full range (>> 14).
 template <int S, typename T, typename L>
 void LinearLine(const T* s, const ResizeSamples& x, size_t n, void* scratch, L* line) {
   using W = WideOf<T>;
@@ -281,30 +278,25 @@ void CubicColumn(const float* const* l, const ResizeAxis& y, int row, T* out,
   const hn::ScalableTag<float> df;
   const hn::Rebind<T, decltype(df)> dt;
   const float t = y.fraction[row];
-  const float nudge = std::is_same_v<T, float> ? 0.0f : 1e-5f;
-  const auto vt = hn::Set(df, t), vnudge = hn::Set(df, nudge);
-  auto vectorGroup = [&](float v) -> T {
-    if constexpr (std::is_same_v<T, float>) {
-      return v;
-    } else {
-      return static_cast<T>(std::clamp(std::nearbyint(v + nudge), 0.0f, kMaxOf<T>));
-    }
-  };
+  constexpr bool kFloat = std::is_same_v<T, float>;
+  const auto vt = hn::Set(df, t), nudge = hn::Set(df, 1e-5f);
   WriteRow(dt, out, n, keepAlpha,
            [&](size_t i) {
              const auto v = CubicV(df, hn::LoadU(df, l[0] + i), hn::LoadU(df, l[1] + i),
                                    hn::LoadU(df, l[2] + i), hn::LoadU(df, l[3] + i), vt);
-             if constexpr (std::is_same_v<T, float>) return v;
-             else return FloatToSample<T>(hn::Add(v, vnudge));
+             if constexpr (kFloat) return v;
+             else return RoundToSample<T>(hn::Add(v, nudge));
            },
            [&](size_t i) {
-             return vectorGroup(Cubic<false>(l[0][i], l[1][i], l[2][i], l[3][i], t));
+             const float v = Cubic<false>(l[0][i], l[1][i], l[2][i], l[3][i], t);
+             if constexpr (kFloat) return v;
+             else return static_cast<T>(std::clamp(std::nearbyint(v + 1e-5f), 0.0f, kMaxOf<T>));
            });
   const size_t run = keepAlpha ? n / 4 * 3 : n;
   for (size_t r = run & ~size_t{3}; r < run; ++r) {
     const size_t i = keepAlpha ? r / 3 * 4 + r % 3 : r;
     const float v = Cubic<true>(l[0][i], l[1][i], l[2][i], l[3][i], t);
-    if constexpr (std::is_same_v<T, float>) {
+    if constexpr (kFloat) {
       StoreSample(out + i, v);
     } else {
       const double truncated = std::trunc(double(v) + kEpsilon);
