@@ -171,22 +171,26 @@ void BuildSpans(int count, double s, int limit, bool columns, SuperSpan* out) {
 // Spreads the linear or cubic column table over the samples of a line.
 bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels,
                   Scratch<uint8_t>& block, ResizeSamples& out) {
-  const int before = kind == ResizeKind::kCubic ? 1 : 0;
-  const int after = kind == ResizeKind::kCubic ? 2 : 1;
+  const bool cubic = kind == ResizeKind::kCubic;
+  const int before = cubic ? 1 : 0, after = cubic ? 2 : 1;
   const size_t n = size_t(x.count) * channels;
-  block = AllocateScratch<uint8_t>(n * (2 * sizeof(int32_t) + sizeof(float)));
+  block = AllocateScratch<uint8_t>(
+      n * (2 * sizeof(int32_t) + sizeof(float) + (cubic ? sizeof(CubicTerms) : 0)));
   if (!block) return false;
   auto* offset = reinterpret_cast<int32_t*>(block.get());
   auto* fixed = offset + n;
   auto* fraction = reinterpret_cast<float*>(fixed + n);
+  auto* terms = reinterpret_cast<CubicTerms*>(fraction + n);
   const auto [lo, hi] = std::minmax_element(x.index, x.index + x.count);
-  out = ResizeSamples{*lo - before, *hi + after, offset, fraction, fixed};
+  out = ResizeSamples{*lo - before, *hi + after, offset, fraction, fixed,
+                      cubic ? terms : nullptr};
   for (int j = 0; j < x.count; ++j)
     for (int c = 0; c < channels; ++c) {
       const size_t i = size_t(j) * channels + c;
       offset[i] = (x.index[j] - before - out.first) * channels + c;
       fixed[i] = x.fixed[j];
       fraction[i] = x.fraction[j];
+      if (cubic) terms[i] = HorizontalCubicTerms(x.fraction[j]);
     }
   return true;
 }

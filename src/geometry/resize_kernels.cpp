@@ -265,7 +265,12 @@ void CubicLine(const T* s, const ResizeSamples& x, size_t n, void* scratch, floa
   WidenRow(s + ptrdiff_t{x.first} * S, size_t(x.last - x.first + 1) * S, wide);
   for (size_t i = 0; i < n; ++i) {
     const float* p = wide + x.offset[i];
-    line[i] = Cubic<true>(p[0], p[S], p[2 * S], p[3 * S], x.fraction[i]);
+    const float a = p[0], b = p[S], c = p[2 * S], d = p[3 * S];
+    const CubicTerms k = x.cubic[i];
+    const float d1 = b - a;
+    const float d2 = (c - b) - d1;
+    const float d3 = ((b - 2.0f * c) + d) - d2;
+    line[i] = ((a + k.n * d3) + k.m * d2) + k.onePlusT * d1;
   }
 }
 
