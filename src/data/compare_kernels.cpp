@@ -1,0 +1,350 @@
+// Row kernels of Compare, Threshold and Complement, compiled once per
+// instruction set. Interleaved pixels are split into one vector per channel,
+// so per-channel constants are plain broadcasts and a compare reduces the
+// channels of a pixel with an And. The last group of a row goes through
+// zero-padded stack copies, so nothing outside the row is read or written.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "data/compare_kernels.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+
+#include <cstring>
+#include <type_traits>
+
+#include "data/compare.h"
+#include "foundation/rows-inl.h"
+#include "hwy/highway.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace vok {
+namespace HWY_NAMESPACE {
+namespace {
+
+// ---- Pixels as one vector per channel ----------------------------------
+
+template <class D>
+using Channels = hn::Vec<D>[4];
+
+template <int kChannels, class D, typename T>
+HWY_INLINE void LoadPixels(D d, const T* p, Channels<D>& v) {
+  if constexpr (kChannels == 1) {
+    v[0] = hn::LoadU(d, p);
+  } else if constexpr (kChannels == 3) {
+    hn::LoadInterleaved3(d, p, v[0], v[1], v[2]);
+  } else {
+    hn::LoadInterleaved4(d, p, v[0], v[1], v[2], v[3]);
+  }
+}
+
+template <int kChannels, class D, typename T>
+HWY_INLINE void StorePixels(D d, const Channels<D>& v, T* p) {
+  if constexpr (kChannels == 1) {
+    hn::StoreU(v[0], d, p);
+  } else if constexpr (kChannels == 3) {
+    hn::StoreInterleaved3(v[0], v[1], v[2], d, p);
+  } else {
+    hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, p);
+  }
+}
+
+// Samples of a partial group, zero-padded to a whole group of pixels.
+template <typename T>
+struct PaddedGroup {
+  HWY_ALIGN T samples[4 * HWY_MAX_BYTES / sizeof(T)] = {};
+  PaddedGroup(const T* p, size_t count) {
+    std::memcpy(samples, p, count * sizeof(T));
+  }
+};
+
+// Integer vectors have no <= of their own in the Highway release we build
+// on; for floats the negation would turn NaN into true.
+template <class V>
+HWY_INLINE auto LessEq(V a, V b) {
+  if constexpr (hwy::IsFloat<hn::TFromV<V>>()) {
+    return hn::Le(a, b);
+  } else {
+    return hn::Not(hn::Gt(a, b));
+  }
+}
+
+// ---- Compare -------------------------------------------------------------
+
+// The relation of sample to sample or constant. Greater forms test the
+// reverse relation, so NaN fails every one of them.
+template <Relation kRelation>
+struct Holds {
+  float eps;
+  template <class V>
+  HWY_INLINE auto operator()(V a, V b) const {
+    if constexpr (kRelation == Relation::kLess) return hn::Lt(a, b);
+    if constexpr (kRelation == Relation::kLessEq) return LessEq(a, b);
+    if constexpr (kRelation == Relation::kEq) return hn::Eq(a, b);
+    if constexpr (kRelation == Relation::kGreaterEq) return LessEq(b, a);
+    if constexpr (kRelation == Relation::kGreater) return hn::Lt(b, a);
+    if constexpr (kRelation == Relation::kEqualEps) {
+      const hn::DFromV<V> d;
+      return hn::Le(hn::Abs(hn::Sub(a, b)), hn::Set(d, eps));
+    }
+  }
+};
+
+// 255 or 0 per lane of a mask, as bytes.
+template <class D, class M>
+HWY_INLINE auto MaskBytes(D d, M mask) {
+  const hn::Rebind<uint8_t, D> d8;
+  const auto ones = hn::VecFromMask(d, mask);
+  if constexpr (sizeof(hn::TFromD<D>) == 1) {
+    return hn::BitCast(d8, ones);
+  } else {
+    const hn::RebindToSigned<D> di;
+    const hn::Rebind<int8_t, D> d8s;
+    return hn::BitCast(d8, hn::DemoteTo(d8s, hn::BitCast(di, ones)));
+  }
+}
+
+template <typename T, int kChannels, class Test>
+void CompareRowsWith(const CompareJob& job, const Test& test) {
+  const hn::ScalableTag<T> d;
+  const hn::Rebind<uint8_t, decltype(d)> d8;
+  const size_t lanes = hn::Lanes(d);
+  const int tested = job.layout.keepAlpha ? 3 : kChannels;
+  Channels<decltype(d)> constant;
+  if (job.constant != nullptr) {
+    for (int c = 0; c < tested; ++c)
+      constant[c] = hn::Set(d, static_cast<const T*>(job.constant)[c]);
+  }
+  const auto group = [&](const T* a, const T* b) {
+    Channels<decltype(d)> va, vb;
+    LoadPixels<kChannels>(d, a, va);
+    if (b != nullptr) LoadPixels<kChannels>(d, b, vb);
+    const auto& rhs = b != nullptr ? vb : constant;
+    auto all = test(va[0], rhs[0]);
+    for (int c = 1; c < tested; ++c) all = hn::And(all, test(va[c], rhs[c]));
+    return MaskBytes(d, all);
+  };
+  const size_t width = job.width;
+  for (int y = 0; y < job.height; ++y) {
+    const T* a = RowAt(static_cast<const T*>(job.a), job.aStep, y);
+    const T* b = job.b != nullptr
+                     ? RowAt(static_cast<const T*>(job.b), job.bStep, y)
+                     : nullptr;
+    uint8_t* out = RowAt(job.dst, job.dstStep, y);
+    size_t x = 0;
+    for (; x + lanes <= width; x += lanes) {
+      hn::StoreU(group(a + x * kChannels, b ? b + x * kChannels : nullptr), d8,
+                 out + x);
+    }
+    if (x < width) {
+      const size_t count = (width - x) * kChannels;
+      const PaddedGroup<T> partA(a + x * kChannels, count);
+      const PaddedGroup<T> partB(b ? b + x * kChannels : partA.samples,
+                                 b ? count : 0);
+      HWY_ALIGN uint8_t partOut[HWY_MAX_BYTES];
+      hn::Store(group(partA.samples, b ? partB.samples : nullptr), d8, partOut);
+      std::memcpy(out + x, partOut, width - x);
+    }
+  }
+}
+
+template <typename T, int kChannels>
+void CompareRowsOf(const CompareJob& job) {
+  switch (job.relation) {
+    case Relation::kLess:
+      return CompareRowsWith<T, kChannels>(job, Holds<Relation::kLess>{});
+    case Relation::kLessEq:
+      return CompareRowsWith<T, kChannels>(job, Holds<Relation::kLessEq>{});
+    case Relation::kEq:
+      return CompareRowsWith<T, kChannels>(job, Holds<Relation::kEq>{});
+    case Relation::kGreaterEq:
+      return CompareRowsWith<T, kChannels>(job, Holds<Relation::kGreaterEq>{});
+    case Relation::kGreater:
+      return CompareRowsWith<T, kChannels>(job, Holds<Relation::kGreater>{});
+    case Relation::kEqualEps:
+      if constexpr (std::is_same_v<T, float>) {
+        return CompareRowsWith<T, kChannels>(
+            job, Holds<Relation::kEqualEps>{job.eps});
+      }
+      return;
+  }
+}
+
+template <typename T>
+void CompareRows(const CompareJob& job) {
+  switch (job.layout.channels) {
+    case 1: return CompareRowsOf<T, 1>(job);
+    case 3: return CompareRowsOf<T, 3>(job);
+    default: return CompareRowsOf<T, 4>(job);
+  }
+}
+
+// ---- Threshold -----------------------------------------------------------
+
+// One rule per channel c, its constants broadcast once.
+template <class D>
+struct ThresholdConstants {
+  Channels<D> t, v, tUpper, vUpper;
+  ThresholdConstants(D d, const ThresholdJob& job) {
+    using T = hn::TFromD<D>;
+    const auto broadcast = [&](const void* p, Channels<D>& out) {
+      for (int c = 0; c < 4; ++c)
+        out[c] = hn::Set(d, p ? static_cast<const T*>(p)[c] : T{0});
+    };
+    broadcast(job.threshold, t);
+    broadcast(job.value, v);
+    broadcast(job.upperThreshold, tUpper);
+    broadcast(job.upperValue, vUpper);
+  }
+};
+
+// NaN samples fail every comparison below: max and min give t, the lower
+// replacement gives v, the upper one keeps the NaN.
+template <ThresholdRule kRule, class D>
+HWY_INLINE hn::Vec<D> ApplyThreshold(const ThresholdConstants<D>& k, int c,
+                                     hn::Vec<D> x) {
+  if constexpr (kRule == ThresholdRule::kLess) {
+    return hn::IfThenElse(hn::Gt(x, k.t[c]), x, k.t[c]);
+  } else if constexpr (kRule == ThresholdRule::kGreater) {
+    return hn::IfThenElse(hn::Lt(x, k.t[c]), x, k.t[c]);
+  } else if constexpr (kRule == ThresholdRule::kLessVal) {
+    return hn::IfThenElse(LessEq(k.t[c], x), x, k.v[c]);
+  } else if constexpr (kRule == ThresholdRule::kGreaterVal) {
+    return hn::IfThenElse(hn::Lt(k.t[c], x), k.v[c], x);
+  } else {
+    const auto upper = hn::IfThenElse(hn::Gt(x, k.tUpper[c]), k.vUpper[c], x);
+    return hn::IfThenElse(LessEq(k.t[c], x), upper, k.v[c]);
+  }
+}
+
+template <typename T, int kChannels, ThresholdRule kRule>
+void ThresholdRowsWith(const ThresholdJob& job) {
+  const hn::ScalableTag<T> d;
+  const size_t lanes = hn::Lanes(d);
+  const bool keepAlpha = job.layout.keepAlpha;
+  const ThresholdConstants<decltype(d)> constants(d, job);
+  // AC4 stores whole pixels, putting back the alpha read from dst first.
+  const auto group = [&](const T* src, const T* oldDst, T* out) {
+    Channels<decltype(d)> v, old;
+    LoadPixels<kChannels>(d, src, v);
+    for (int c = 0; c < (keepAlpha ? 3 : kChannels); ++c)
+      v[c] = ApplyThreshold<kRule>(constants, c, v[c]);
+    if constexpr (kChannels == 4) {
+      if (keepAlpha) {
+        LoadPixels<kChannels>(d, oldDst, old);
+        v[3] = old[3];
+      }
+    }
+    StorePixels<kChannels>(d, v, out);
+  };
+  const size_t width = job.width;
+  for (int y = 0; y < job.height; ++y) {
+    const T* src = RowAt(static_cast<const T*>(job.src), job.srcStep, y);
+    T* out = RowAt(static_cast<T*>(job.dst), job.dstStep, y);
+    size_t x = 0;
+    for (; x + lanes <= width; x += lanes) {
+      group(src + x * kChannels, out + x * kChannels, out + x * kChannels);
+    }
+    if (x < width) {
+      const size_t count = (width - x) * kChannels;
+      const PaddedGroup<T> part(src + x * kChannels, count);
+      PaddedGroup<T> partOut(out + x * kChannels, keepAlpha ? count : 0);
+      group(part.samples, partOut.samples, partOut.samples);
+      std::memcpy(out + x * kChannels, partOut.samples, count * sizeof(T));
+    }
+  }
+}
+
+template <typename T, int kChannels>
+void ThresholdRowsOf(const ThresholdJob& job) {
+  switch (job.rule) {
+    case ThresholdRule::kLess:
+      return ThresholdRowsWith<T, kChannels, ThresholdRule::kLess>(job);
+    case ThresholdRule::kGreater:
+      return ThresholdRowsWith<T, kChannels, ThresholdRule::kGreater>(job);
+    case ThresholdRule::kLessVal:
+      return ThresholdRowsWith<T, kChannels, ThresholdRule::kLessVal>(job);
+    case ThresholdRule::kGreaterVal:
+      return ThresholdRowsWith<T, kChannels, ThresholdRule::kGreaterVal>(job);
+    case ThresholdRule::kLessGreaterVal:
+      return ThresholdRowsWith<T, kChannels,
+                               ThresholdRule::kLessGreaterVal>(job);
+  }
+}
+
+template <typename T>
+void ThresholdRows(const ThresholdJob& job) {
+  switch (job.layout.channels) {
+    case 1: return ThresholdRowsOf<T, 1>(job);
+    case 3: return ThresholdRowsOf<T, 3>(job);
+    default: return ThresholdRowsOf<T, 4>(job);
+  }
+}
+
+// ---- Complement ----------------------------------------------------------
+
+// Two's complement to sign and magnitude: |x| with x's sign bit. The most
+// negative value is its own absolute value and stays.
+struct ComplementRule {
+  hn::ScalableTag<int32_t> d;
+  HWY_INLINE auto operator()(const int32_t* a, const int32_t*) const {
+    const auto x = hn::LoadU(d, a);
+    const auto sign = hn::Set(d, hwy::LimitsMin<int32_t>());
+    return hn::Or(hn::Abs(x), hn::And(x, sign));
+  }
+};
+
+}  // namespace
+
+void CompareRows8u(const CompareJob& job) { CompareRows<uint8_t>(job); }
+void CompareRows16s(const CompareJob& job) { CompareRows<int16_t>(job); }
+void CompareRows32f(const CompareJob& job) { CompareRows<float>(job); }
+void ThresholdRows8u(const ThresholdJob& job) { ThresholdRows<uint8_t>(job); }
+void ThresholdRows16s(const ThresholdJob& job) { ThresholdRows<int16_t>(job); }
+void ThresholdRows32f(const ThresholdJob& job) { ThresholdRows<float>(job); }
+void ComplementRows(const ElementRows& rows) {
+  ApplyRows<int32_t, int32_t>(rows, 0, rows.height, ComplementRule{});
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace vok
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace vok {
+
+HWY_EXPORT(CompareRows8u);
+HWY_EXPORT(CompareRows16s);
+HWY_EXPORT(CompareRows32f);
+HWY_EXPORT(ThresholdRows8u);
+HWY_EXPORT(ThresholdRows16s);
+HWY_EXPORT(ThresholdRows32f);
+HWY_EXPORT(ComplementRows);
+
+template <>
+void RunCompare<Vok8u>(const CompareJob& job) {
+  HWY_DYNAMIC_DISPATCH(CompareRows8u)(job);
+}
+template <>
+void RunCompare<Vok16s>(const CompareJob& job) {
+  HWY_DYNAMIC_DISPATCH(CompareRows16s)(job);
+}
+template <>
+void RunCompare<Vok32f>(const CompareJob& job) {
+  HWY_DYNAMIC_DISPATCH(CompareRows32f)(job);
+}
+template <>
+void RunThreshold<Vok8u>(const ThresholdJob& job) {
+  HWY_DYNAMIC_DISPATCH(ThresholdRows8u)(job);
+}
+template <>
+void RunThreshold<Vok16s>(const ThresholdJob& job) {
+  HWY_DYNAMIC_DISPATCH(ThresholdRows16s)(job);
+}
+template <>
+void RunThreshold<Vok32f>(const ThresholdJob& job) {
+  HWY_DYNAMIC_DISPATCH(ThresholdRows32f)(job);
+}
+void RunComplement(const ElementRows& rows) {
+  HWY_DYNAMIC_DISPATCH(ComplementRows)(rows);
+}
+
+}  // namespace vok
+#endif  // HWY_ONCE
