@@ -17,7 +17,7 @@ void FillNarrow(Image<T>& image, std::mt19937& rng, bool withNaN = true) {
     for (size_t i = 0; i < image.rowSamples(); ++i) {
       T v = static_cast<T>(int(rng() % 7) - 3 + (std::is_unsigned_v<T> ? 3 : 0));
       if (std::is_floating_point_v<T> && withNaN && rng() % 16 == 0) v = T(NAN);
-      image.row(y)[i] = v;
+      image.set(int(i) / image.channels(), y, int(i) % image.channels(), v);
     }
 }
 

@@ -121,11 +121,12 @@ void AddSpecialValues(Image<T>& image, std::mt19937& rng) {
                           2.5f, -0.5f, -2.5f, 254.5f, 255.5f, 127.5f, -128.5f,
                           65535.5f, 32767.5f, -32768.5f, -0.0f, 0.999999f};
     for (int y = 0; y < image.height(); ++y)
-      for (size_t i = 0; i < image.rowSamples(); ++i) {
-        const uint32_t pick = rng() % 4;
-        if (pick == 0) image.row(y)[i] = specials[rng() % std::size(specials)];
-        if (pick == 1) image.row(y)[i] = std::floor(image.row(y)[i]) + 0.5f;
-      }
+      for (int x = 0; x < image.width(); ++x)
+        for (int c = 0; c < image.channels(); ++c) {
+          const uint32_t pick = rng() % 4;
+          if (pick == 0) image.set(x, y, c, specials[rng() % std::size(specials)]);
+          if (pick == 1) image.set(x, y, c, std::floor(image.at(x, y, c)) + 0.5f);
+        }
   }
 }
 
