@@ -1027,6 +1027,192 @@ VOK_API VokStatus vokiNormRel_L2_32f_C1R(const Vok32f* src1, int src1Step, const
 VOK_API VokStatus vokiNormRel_L2_32f_C3R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, VokiSize roi, Vok64f pValue[3], VokHint hint);
 VOK_API VokStatus vokiNormRel_L2_32f_C4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, VokiSize roi, Vok64f pValue[4], VokHint hint);
 VOK_API VokStatus vokiNormRel_L2_32f_AC4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, VokiSize roi, Vok64f pValue[3], VokHint hint);
+/* ---- Division -------------------------------------------------------------
+ * Div gives src2 / src1 (in place srcDst / src); DivC src / value. Integer
+ * quotients round to nearest with ties to even after the scale factor and
+ * saturate; a zero divisor sample gives the bound of the dividend's sign (0
+ * for 0) and returns vokWarnDivideByZero once the image is done. 32f by ±0
+ * gives infinity of the dividend's sign, NaN for 0 and NaN. DivC refuses a
+ * zero constant with vokStatusDivideByZero (8u C3: after writing), and 32f
+ * DivC multiplies by 1/value. */
+VOK_API VokStatus vokiDiv_8u_C1RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_8u_C1IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_8u_C3RSfs(const Vok8u* src1, int src1Step, const Vok8u* src2, int src2Step, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_8u_C3IRSfs(const Vok8u* src, int srcStep, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_16s_C1RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_16s_C1IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_16s_C3RSfs(const Vok16s* src1, int src1Step, const Vok16s* src2, int src2Step, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_16s_C3IRSfs(const Vok16s* src, int srcStep, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDiv_32f_C1R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32f_C1IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32f_C3R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32f_C3IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32f_C4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32f_C4IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32f_AC4R(const Vok32f* src1, int src1Step, const Vok32f* src2, int src2Step, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDiv_32f_AC4IR(const Vok32f* src, int srcStep, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiDivC_8u_C1RSfs(const Vok8u* src, int srcStep, Vok8u value, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_8u_C1IRSfs(Vok8u value, Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_8u_C3RSfs(const Vok8u* src, int srcStep, const Vok8u value[3], Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_8u_C3IRSfs(const Vok8u value[3], Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_16s_C1RSfs(const Vok16s* src, int srcStep, Vok16s value, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_16s_C1IRSfs(Vok16s value, Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_16s_C3RSfs(const Vok16s* src, int srcStep, const Vok16s value[3], Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_16s_C3IRSfs(const Vok16s value[3], Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiDivC_32f_C1R(const Vok32f* src, int srcStep, Vok32f value, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDivC_32f_C1IR(Vok32f value, Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiDivC_32f_C3R(const Vok32f* src, int srcStep, const Vok32f value[3], Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiDivC_32f_C3IR(const Vok32f value[3], Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus voksDiv_8u_Sfs(const Vok8u* src1, const Vok8u* src2, Vok8u* dst, int len, int scale);
+VOK_API VokStatus voksDiv_16s_Sfs(const Vok16s* src1, const Vok16s* src2, Vok16s* dst, int len, int scale);
+VOK_API VokStatus voksDiv_32f(const Vok32f* src1, const Vok32f* src2, Vok32f* dst, int len);
+VOK_API VokStatus voksDivC_8u_Sfs(const Vok8u* src, Vok8u value, Vok8u* dst, int len, int scale);
+VOK_API VokStatus voksDivC_16s_Sfs(const Vok16s* src, Vok16s value, Vok16s* dst, int len, int scale);
+
+/* ---- Abs ------------------------------------------------------------------
+ * |x|: 16s saturates (-32768 gives 32767), 32f clears the sign bit. */
+VOK_API VokStatus vokiAbs_16s_C1R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_16s_C1IR(Vok16s* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_16s_C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_16s_C3IR(Vok16s* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_16s_C4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_16s_C4IR(Vok16s* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_16s_AC4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_16s_AC4IR(Vok16s* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_32f_C1R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_32f_C1IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_32f_C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_32f_C3IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_32f_C4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_32f_C4IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_32f_AC4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiAbs_32f_AC4IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus voksAbs_16s(const Vok16s* src, Vok16s* dst, int len);
+VOK_API VokStatus voksAbs_16s_I(Vok16s* srcDst, int len);
+VOK_API VokStatus voksAbs_32f(const Vok32f* src, Vok32f* dst, int len);
+VOK_API VokStatus voksAbs_32f_I(Vok32f* srcDst, int len);
+
+/* ---- Sqr ------------------------------------------------------------------
+ * x * x; integers exact, then scaled, rounded with ties to even, saturated. */
+VOK_API VokStatus vokiSqr_8u_C1RSfs(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_8u_C1IRSfs(Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_8u_C3RSfs(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_8u_C3IRSfs(Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_8u_C4RSfs(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_8u_C4IRSfs(Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_8u_AC4RSfs(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_8u_AC4IRSfs(Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16u_C1RSfs(const Vok16u* src, int srcStep, Vok16u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16u_C1IRSfs(Vok16u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16u_C3RSfs(const Vok16u* src, int srcStep, Vok16u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16u_C3IRSfs(Vok16u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16u_C4RSfs(const Vok16u* src, int srcStep, Vok16u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16u_C4IRSfs(Vok16u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16u_AC4RSfs(const Vok16u* src, int srcStep, Vok16u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16u_AC4IRSfs(Vok16u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16s_C1RSfs(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16s_C1IRSfs(Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16s_C3RSfs(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16s_C3IRSfs(Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16s_C4RSfs(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16s_C4IRSfs(Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16s_AC4RSfs(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_16s_AC4IRSfs(Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqr_32f_C1R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSqr_32f_C1IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSqr_32f_C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSqr_32f_C3IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSqr_32f_C4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSqr_32f_C4IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSqr_32f_AC4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSqr_32f_AC4IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus voksSqr_8u_Sfs(const Vok8u* src, Vok8u* dst, int len, int scale);
+VOK_API VokStatus voksSqr_8u_ISfs(Vok8u* srcDst, int len, int scale);
+VOK_API VokStatus voksSqr_16u_Sfs(const Vok16u* src, Vok16u* dst, int len, int scale);
+VOK_API VokStatus voksSqr_16u_ISfs(Vok16u* srcDst, int len, int scale);
+VOK_API VokStatus voksSqr_16s_Sfs(const Vok16s* src, Vok16s* dst, int len, int scale);
+VOK_API VokStatus voksSqr_16s_ISfs(Vok16s* srcDst, int len, int scale);
+VOK_API VokStatus voksSqr_32f(const Vok32f* src, Vok32f* dst, int len);
+VOK_API VokStatus voksSqr_32f_I(Vok32f* srcDst, int len);
+
+/* ---- Sqrt -----------------------------------------------------------------
+ * The exact square root scaled, rounded with ties to even, saturated. Negative
+ * samples give 0 (16s) or NaN (32f, not -0) and vokWarnSqrtDomain. */
+VOK_API VokStatus vokiSqrt_8u_C1RSfs(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_8u_C1IRSfs(Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_8u_C3RSfs(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_8u_C3IRSfs(Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_8u_AC4RSfs(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_8u_AC4IRSfs(Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16u_C1RSfs(const Vok16u* src, int srcStep, Vok16u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16u_C1IRSfs(Vok16u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16u_C3RSfs(const Vok16u* src, int srcStep, Vok16u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16u_C3IRSfs(Vok16u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16u_AC4RSfs(const Vok16u* src, int srcStep, Vok16u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16u_AC4IRSfs(Vok16u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16s_C1RSfs(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16s_C1IRSfs(Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16s_C3RSfs(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16s_C3IRSfs(Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16s_AC4RSfs(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_16s_AC4IRSfs(Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiSqrt_32f_C1R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSqrt_32f_C1IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSqrt_32f_C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSqrt_32f_C3IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSqrt_32f_AC4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiSqrt_32f_AC4IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiSqrt_32f_C4IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus voksSqrt_8u_Sfs(const Vok8u* src, Vok8u* dst, int len, int scale);
+VOK_API VokStatus voksSqrt_8u_ISfs(Vok8u* srcDst, int len, int scale);
+VOK_API VokStatus voksSqrt_16u_Sfs(const Vok16u* src, Vok16u* dst, int len, int scale);
+VOK_API VokStatus voksSqrt_16u_ISfs(Vok16u* srcDst, int len, int scale);
+VOK_API VokStatus voksSqrt_16s_Sfs(const Vok16s* src, Vok16s* dst, int len, int scale);
+VOK_API VokStatus voksSqrt_16s_ISfs(Vok16s* srcDst, int len, int scale);
+VOK_API VokStatus voksSqrt_32f(const Vok32f* src, Vok32f* dst, int len);
+VOK_API VokStatus voksSqrt_32f_I(Vok32f* srcDst, int len);
+
+/* ---- Ln -------------------------------------------------------------------
+ * Natural logarithm, integers scaled and rounded to nearest. A zero sample
+ * gives the lowest value (32f: -infinity) and vokWarnSingularity, a negative
+ * one -32768 (32f: NaN, also for -0) and vokWarnDomain; the first one met in
+ * the image is returned. */
+VOK_API VokStatus vokiLn_8u_C1RSfs(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiLn_8u_C1IRSfs(Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiLn_8u_C3RSfs(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiLn_8u_C3IRSfs(Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiLn_16s_C1RSfs(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiLn_16s_C1IRSfs(Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiLn_16s_C3RSfs(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiLn_16s_C3IRSfs(Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiLn_32f_C1R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiLn_32f_C1IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiLn_32f_C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiLn_32f_C3IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus voksLn_16s_Sfs(const Vok16s* src, Vok16s* dst, int len, int scale);
+VOK_API VokStatus voksLn_16s_ISfs(Vok16s* srcDst, int len, int scale);
+VOK_API VokStatus voksLn_32f(const Vok32f* src, Vok32f* dst, int len);
+VOK_API VokStatus voksLn_32f_I(Vok32f* srcDst, int len);
+
+/* ---- Exp ------------------------------------------------------------------
+ * e^x; integers scaled, rounded to nearest (the tie e^0 / 2 gives 1) and
+ * saturated without a warning. */
+VOK_API VokStatus vokiExp_8u_C1RSfs(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiExp_8u_C1IRSfs(Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiExp_8u_C3RSfs(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiExp_8u_C3IRSfs(Vok8u* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiExp_16s_C1RSfs(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiExp_16s_C1IRSfs(Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiExp_16s_C3RSfs(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiExp_16s_C3IRSfs(Vok16s* srcDst, int srcDstStep, VokiSize roi, int scale);
+VOK_API VokStatus vokiExp_32f_C1R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiExp_32f_C1IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus vokiExp_32f_C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiExp_32f_C3IR(Vok32f* srcDst, int srcDstStep, VokiSize roi);
+VOK_API VokStatus voksExp_16s_Sfs(const Vok16s* src, Vok16s* dst, int len, int scale);
+VOK_API VokStatus voksExp_16s_ISfs(Vok16s* srcDst, int len, int scale);
+VOK_API VokStatus voksExp_32f(const Vok32f* src, Vok32f* dst, int len);
+VOK_API VokStatus voksExp_32f_I(Vok32f* srcDst, int len);
 
 /* ---- Add, Sub, Mul, Div of complex images ----------------------------------
    Sub is src2 - src1 and Div src2 / src1 (in place srcDst - src, srcDst / src).
