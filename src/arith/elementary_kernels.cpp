@@ -11,6 +11,7 @@
 #include <type_traits>
 
 #include "arith/elementary.h"
+#include "data/copy.h"
 #include "foundation/rows-inl.h"
 #include "hwy/contrib/math/math-inl.h"
 #include "hwy/highway.h"
@@ -328,16 +329,12 @@ HWY_INLINE void RunRow(const Rule& rule, const T* a, const T* b, T* out,
   std::memcpy(out + i, partOut, rest * sizeof(T));
 }
 
-template <typename T>
-struct CopyRule {
-  hn::ScalableTag<T> d;
-  HWY_INLINE auto operator()(const T* a, const T*) const { return hn::LoadU(d, a); }
-};
-
-// The AC4 copy: the first three samples of every four.
+// The AC4 copy of one row: the first three samples of every four.
 template <typename T>
 void CopyKeepingAlpha(const T* from, T* to, size_t n) {
-  ApplyRow(CopyRule<T>{}, from, from, to, n, /*keepAlpha=*/true, /*stream=*/false);
+  RunCopy(CopyJob{CopyKind::kAlpha, 4, true, {from}, 0, {to}, 0, nullptr, 0,
+                  static_cast<int>(n / 4), 1},
+          sizeof(T));
 }
 
 // Runs `rule` over the rows of the job and returns the first warning. AC4
