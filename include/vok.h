@@ -1757,6 +1757,56 @@ VOK_API VokStatus vokiThreshold_LTValGTVal_32f_AC4IR(Vok32f* srcDst, int srcDstS
 /* ---- Complement: two's complement to sign and magnitude, in place ---- */
 VOK_API VokStatus vokiComplement_32s_C1IR(Vok32s* srcDst, int srcDstStep, VokiSize roi);
 
+/* ---- RGBToYCbCr, YCbCrToRGB: studio-range BT.601 luma-chroma ------------
+ * Fixed point with a block path and a tail path that can differ by one
+ * unit, so a pixel's result can depend on its column. */
+VOK_API VokStatus vokiRGBToYCbCr_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYCbCr_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYCbCr_8u_P3R(const Vok8u* const src[3], int srcStep, Vok8u* const dst[3], int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCbCrToRGB_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCbCrToRGB_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCbCrToRGB_8u_P3R(const Vok8u* const src[3], int srcStep, Vok8u* const dst[3], int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCbCrToRGB_8u_P3C3R(const Vok8u* const src[3], int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+
+/* ---- RGBToYUV, YUVToRGB: full-range luma with chroma around 128 ---------- */
+VOK_API VokStatus vokiRGBToYUV_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYUV_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYUV_8u_P3R(const Vok8u* const src[3], int srcStep, Vok8u* const dst[3], int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYUV_8u_C3P3R(const Vok8u* src, int srcStep, Vok8u* const dst[3], int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYUVToRGB_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYUVToRGB_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYUVToRGB_8u_P3R(const Vok8u* const src[3], int srcStep, Vok8u* const dst[3], int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYUVToRGB_8u_P3C3R(const Vok8u* const src[3], int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+
+/* ---- RGBToYCC, YCCToRGB: PhotoYCC, chroma offsets 156 and 137 -----------
+ * 32f works on 0..1 and does not quantise; YCCToRGB_32f clamps to 0..1. */
+VOK_API VokStatus vokiRGBToYCC_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYCC_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYCC_16u_C3R(const Vok16u* src, int srcStep, Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYCC_16u_AC4R(const Vok16u* src, int srcStep, Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYCC_16s_C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYCC_16s_AC4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYCC_32f_C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToYCC_32f_AC4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCCToRGB_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCCToRGB_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCCToRGB_16u_C3R(const Vok16u* src, int srcStep, Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCCToRGB_16u_AC4R(const Vok16u* src, int srcStep, Vok16u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCCToRGB_16s_C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCCToRGB_16s_AC4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCCToRGB_32f_C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiYCCToRGB_32f_AC4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi);
+
+/* ---- CbYCr 4:2:2 pixel pairs (Cb, Y0, Cr, Y1) with RGB or BGR ----------
+ * RGBToCbYCr422 filters chroma 1-2-1 across pixels, BGRToCbYCr422 averages
+ * a pair; an odd width ends on a lone pixel of two bytes, Cb and Y.
+ * CbYCr422ToBGR writes aval to the fourth channel. */
+VOK_API VokStatus vokiRGBToCbYCr422_8u_C3C2R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiRGBToCbYCr422Gamma_8u_C3C2R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiBGRToCbYCr422_8u_AC4C2R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCbYCr422ToRGB_8u_C2C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
+VOK_API VokStatus vokiCbYCr422ToBGR_8u_C2C4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, Vok8u aval);
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif
