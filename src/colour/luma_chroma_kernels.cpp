@@ -20,6 +20,7 @@
 
 #include "colour/luma_chroma.h"
 #include "foundation/image.h"
+#include "foundation/parallel.h"
 #include "hwy/highway.h"
 
 // Read-only tables, compiled once for all instruction sets.
@@ -963,18 +964,15 @@ namespace vok {
 
 HWY_EXPORT(ColourRows);
 
-// PhotoYCC spreads its rows over the team with a static schedule, one row
-// kernel call per row; the other conversions run on the calling thread.
+// PhotoYCC spreads its rows over the team with a static schedule; the other
+// conversions run on the calling thread.
 void RunColour(const ColourJob& job) {
   const bool photoYCC =
       job.form == ColourForm::kRGBToYCCC3 || job.form == ColourForm::kRGBToYCCAC4 ||
       job.form == ColourForm::kYCCToRGBC3 || job.form == ColourForm::kYCCToRGBAC4;
-  if (!photoYCC) {
-    HWY_DYNAMIC_DISPATCH(ColourRows)(job, 0, job.height);
-    return;
-  }
-#pragma omp parallel for schedule(static)
-  for (int y = 0; y < job.height; ++y) HWY_DYNAMIC_DISPATCH(ColourRows)(job, y, y + 1);
+  StaticRows(job.height, photoYCC, [&job](int y0, int y1) {
+    HWY_DYNAMIC_DISPATCH(ColourRows)(job, y0, y1);
+  });
 }
 
 }  // namespace vok
