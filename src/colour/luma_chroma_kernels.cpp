@@ -326,7 +326,7 @@ struct CbYCr422Source {
   }
 };
 
-// The block path of RGB to CbYCr 4:2:2 as Y per pixel and Cb, Cr repeated
+// The block path of BGR to CbYCr 4:2:2 takes Y per pixel and Cb, Cr repeated
 // in both lanes of a pair; even lanes give the pair's Cb, odd lanes its Cr.
 struct CbYCr422Destination {
   uint8_t* row;
