@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 #include <utility>
 
@@ -183,6 +184,18 @@ struct Samples<float> {
 };
 
 // ---- Sides -----------------------------------------------------------------
+
+// One sample at an address of any alignment.
+template <typename T>
+HWY_INLINE std::remove_const_t<T> LoadSample(T* p) {
+  std::remove_const_t<T> v;
+  std::memcpy(&v, p, sizeof(v));
+  return v;
+}
+template <typename T>
+HWY_INLINE void StoreSample(T* p, T v) {
+  std::memcpy(p, &v, sizeof(v));
+}
 // A side is one row of one layout: Load and Store move a group of pixels as
 // three channel vectors, Get and Put one pixel as three scalars. Sources
 // have a const T.
@@ -240,12 +253,12 @@ struct Interleaved {
 
   template <typename Scalar>
   void Get(size_t x, Scalar v[3]) const {
-    for (int c = 0; c < 3; ++c) v[c] = S::In(row[x * kChannels + Channel(c)]);
+    for (int c = 0; c < 3; ++c) v[c] = S::In(LoadSample(row + x * kChannels + Channel(c)));
   }
   template <typename Scalar>
   void Put(size_t x, const Scalar v[3]) const {
-    for (int c = 0; c < 3; ++c) row[x * kChannels + Channel(c)] = S::Out(v[c]);
-    if constexpr (kFillAlpha) row[x * kChannels + 3] = alpha;
+    for (int c = 0; c < 3; ++c) StoreSample(row + x * kChannels + Channel(c), S::Out(v[c]));
+    if constexpr (kFillAlpha) StoreSample(row + x * kChannels + 3, alpha);
   }
   static int Channel(int c) { return kBgr ? 2 - c : c; }
 };
@@ -281,11 +294,11 @@ struct Planar {
   }
   template <typename Scalar>
   void Get(size_t x, Scalar v[3]) const {
-    for (int c = 0; c < 3; ++c) v[c] = S::In(rows[c][x]);
+    for (int c = 0; c < 3; ++c) v[c] = S::In(LoadSample(rows[c] + x));
   }
   template <typename Scalar>
   void Put(size_t x, const Scalar v[3]) const {
-    for (int c = 0; c < 3; ++c) rows[c][x] = S::Out(v[c]);
+    for (int c = 0; c < 3; ++c) StoreSample(rows[c] + x, S::Out(v[c]));
   }
 };
 

@@ -413,12 +413,13 @@ void CheckYCC(YCCFn<T> fn, int channels, bool toRGB, std::mt19937& rng) {
     dst.randomize(rng);
     if constexpr (std::is_same_v<T, Vok32f>)  // 0..1 and a little beyond
       for (int y = 0; y < height; ++y)
-        for (size_t i = 0; i < src.rowSamples(); ++i)
-          src.row(y)[i] = std::uniform_real_distribution<float>(-0.2f, 1.2f)(rng);
+        for (int x = 0; x < width; ++x)
+          for (int c = 0; c < channels; ++c)
+            src.set(x, y, c, std::uniform_real_distribution<float>(-0.2f, 1.2f)(rng));
     Image<T> want = dst;
     for (int y = 0; y < height; ++y)
       for (int x = 0; x < width; ++x) {
-        const T* in = src.row(y) + x * channels;
+        const T in[3] = {src.at(x, y, 0), src.at(x, y, 1), src.at(x, y, 2)};
         const bool block = x < width / 4 * 4;
         const auto out = toRGB ? YCCToRGBModel(in, block) : RGBToYCCModel(in, block);
         for (int c = 0; c < 3; ++c) want.set(x, y, c, out[c]);
