@@ -100,10 +100,6 @@ struct ArithFamily {
 // One line per family and sample type; the layouts and the in-place twins
 // expand from it. `Sfs` marks the forms with a trailing scale factor.
 
-#define VOK_SCALE_PARAM_Sfs , int scale
-#define VOK_SCALE_PARAM_
-#define VOK_SCALE_ARG_Sfs scale
-#define VOK_SCALE_ARG_ 0
 
 #define VOK_TWO_IMAGE_FORMS(X)      \
   X(Add, kAdd, 8u, Vok8u, Sfs)      \

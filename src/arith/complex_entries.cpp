@@ -104,10 +104,6 @@ VokStatus ComplexImageConstant(const T* src, int srcStep, const T* values, T* ds
 // One line per family and sample type; layouts and in-place twins expand
 // from it. `Sfs` marks the forms with a trailing scale factor.
 
-#define VOK_SCALE_PARAM_Sfs , int scale
-#define VOK_SCALE_PARAM_
-#define VOK_SCALE_ARG_Sfs scale
-#define VOK_SCALE_ARG_ 0
 
 #define VOK_COMPLEX_FAMILIES(X)  \
   X(Add, kAdd, 16sc, Vok16sc, Sfs) \

@@ -143,10 +143,6 @@ VokStatus DivConstantVector(const T* src, T value, T* dst, int len, int scale) {
 // One line per family and sample type with the set of layouts it has; the
 // in-place twins expand from it. `Sfs` marks a trailing scale factor.
 
-#define VOK_SCALE_PARAM_Sfs , int scale
-#define VOK_SCALE_PARAM_
-#define VOK_SCALE_ARG_Sfs scale
-#define VOK_SCALE_ARG_ 0
 #define VOK_VECTOR_SUFFIX_Sfs _Sfs
 #define VOK_VECTOR_SUFFIX_
 #define VOK_IN_PLACE_SUFFIX_Sfs _ISfs

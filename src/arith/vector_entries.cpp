@@ -10,6 +10,7 @@
 #include "arith/complex.h"
 #include "arith/vector.h"
 #include "foundation/check.h"
+#include "foundation/element_entries.h"
 #include "vok.h"
 
 namespace vok {
@@ -129,10 +130,6 @@ VokStatus UnaryScaled(const TS* src, TD* dst, int len, int scale,
 
 // ---- Entry tables ------------------------------------------------------------
 
-#define VOK_SCALE_PARAM_Sfs , int scale
-#define VOK_SCALE_PARAM_
-#define VOK_SCALE_ARG_Sfs scale
-#define VOK_SCALE_ARG_ 0
 #define VOK_OUT_SUFFIX_Sfs _Sfs
 #define VOK_OUT_SUFFIX_
 #define VOK_IN_PLACE_SUFFIX_Sfs _ISfs

@@ -67,7 +67,14 @@ VokStatus ImageConstant(const T* src, int srcStep, const V* values, T* dst,
 
 }  // namespace vok
 
-// Entry-table helpers: C1 constants come by value, the others as a pointer
+// Entry-table helpers. `Sfs` in a table marks the forms with a trailing
+// scale factor; forms without one pass 0 on.
+#define VOK_SCALE_PARAM_Sfs , int scale
+#define VOK_SCALE_PARAM_
+#define VOK_SCALE_ARG_Sfs scale
+#define VOK_SCALE_ARG_ 0
+
+// C1 constants come by value, the others as a pointer
 // to one value per channel.
 #define VOK_VALUE_PARAM_C1(V) V value
 #define VOK_VALUE_PARAM_C3(V) const V value[3]
