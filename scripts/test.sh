@@ -8,7 +8,7 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 "$root/scripts/deps.sh"
 dir=$root/build flags=(-DCMAKE_BUILD_TYPE=Release)
 if [ "${1:-}" = "--sanitize" ]; then
-  dir=$root/build-sanitize flags=(-DCMAKE_BUILD_TYPE=RelWithDebInfo -DVOK_SANITIZE=ON)
+  dir=$root/build-sanitize flags=(-DCMAKE_BUILD_TYPE=Release -DVOK_SANITIZE=ON)
 fi
 cmake -S "$root" -B "$dir" "${flags[@]}" >/dev/null
 cmake --build "$dir" -j"$(nproc)"
