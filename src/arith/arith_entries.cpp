@@ -100,7 +100,6 @@ struct ArithFamily {
 // One line per family and sample type; the layouts and the in-place twins
 // expand from it. `Sfs` marks the forms with a trailing scale factor.
 
-
 #define VOK_TWO_IMAGE_FORMS(X)      \
   X(Add, kAdd, 8u, Vok8u, Sfs)      \
   X(Add, kAdd, 16s, Vok16s, Sfs)    \

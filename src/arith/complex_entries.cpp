@@ -104,7 +104,6 @@ VokStatus ComplexImageConstant(const T* src, int srcStep, const T* values, T* ds
 // One line per family and sample type; layouts and in-place twins expand
 // from it. `Sfs` marks the forms with a trailing scale factor.
 
-
 #define VOK_COMPLEX_FAMILIES(X)  \
   X(Add, kAdd, 16sc, Vok16sc, Sfs) \
   X(Add, kAdd, 32sc, Vok32sc, Sfs) \
