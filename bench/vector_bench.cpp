@@ -17,90 +17,92 @@ struct Planes {
   const Vok32fc* complex() const { return pairs.ptr<Vok32fc>(); }
 };
 
-void CountElements(benchmark::State& state) {
+// Times the call that `prepare` returns, single-threaded, on two sets of
+// one million random samples; prepare allocates the call's outputs.
+template <class Prepare>
+void Run(benchmark::State& state, const Prepare& prepare) {
+  vok_bench::SetThreads(1);
+  const Planes a, b;
+  auto call = prepare(a, b);
+  for (auto _ : state) call();
   state.SetItemsProcessed(int64_t(state.iterations()) * kSide * kSide);
 }
 
+cv::Mat Plane(int type = CV_32F) { return cv::Mat(kSide, kSide, type); }
+
 void BM_Magnitude_vok(benchmark::State& state) {
-  vok_bench::SetThreads(1);
-  const Planes p;
-  cv::Mat mag(kSide, kSide, CV_32F);
-  for (auto _ : state) voksMagnitude_32fc(p.complex(), mag.ptr<Vok32f>(), kSide * kSide);
-  CountElements(state);
+  Run(state, [](const Planes& p, const Planes&) {
+    return [&p, mag = Plane()]() mutable {
+      voksMagnitude_32fc(p.complex(), mag.ptr<Vok32f>(), kSide * kSide);
+    };
+  });
 }
 void BM_Magnitude_cv(benchmark::State& state) {
-  vok_bench::SetThreads(1);
-  const Planes p;
-  cv::Mat mag(kSide, kSide, CV_32F);
-  for (auto _ : state) cv::magnitude(p.re, p.im, mag);
-  CountElements(state);
+  Run(state, [](const Planes& p, const Planes&) {
+    return [&p, mag = Plane()]() mutable { cv::magnitude(p.re, p.im, mag); };
+  });
 }
 
 void BM_Phase_vok(benchmark::State& state) {
-  vok_bench::SetThreads(1);
-  const Planes p;
-  cv::Mat angle(kSide, kSide, CV_32F);
-  for (auto _ : state) voksPhase_32fc(p.complex(), angle.ptr<Vok32f>(), kSide * kSide);
-  CountElements(state);
+  Run(state, [](const Planes& p, const Planes&) {
+    return [&p, angle = Plane()]() mutable {
+      voksPhase_32fc(p.complex(), angle.ptr<Vok32f>(), kSide * kSide);
+    };
+  });
 }
 void BM_Phase_cv(benchmark::State& state) {
-  vok_bench::SetThreads(1);
-  const Planes p;
-  cv::Mat angle(kSide, kSide, CV_32F);
-  for (auto _ : state) cv::phase(p.re, p.im, angle);
-  CountElements(state);
+  Run(state, [](const Planes& p, const Planes&) {
+    return [&p, angle = Plane()]() mutable { cv::phase(p.re, p.im, angle); };
+  });
 }
 
+// re as magnitudes, im as angles.
 void BM_PolarToCart_vok(benchmark::State& state) {
-  vok_bench::SetThreads(1);
-  const Planes p;  // re as magnitudes, im as angles
-  cv::Mat out(kSide, kSide, CV_32FC2);
-  for (auto _ : state)
-    voksPolarToCart_32fc(p.re.ptr<Vok32f>(), p.im.ptr<Vok32f>(), out.ptr<Vok32fc>(),
-                         kSide * kSide);
-  CountElements(state);
+  Run(state, [](const Planes& p, const Planes&) {
+    return [&p, out = Plane(CV_32FC2)]() mutable {
+      voksPolarToCart_32fc(p.re.ptr<Vok32f>(), p.im.ptr<Vok32f>(),
+                           out.ptr<Vok32fc>(), kSide * kSide);
+    };
+  });
 }
 void BM_PolarToCart_cv(benchmark::State& state) {
-  vok_bench::SetThreads(1);
-  const Planes p;
-  cv::Mat x(kSide, kSide, CV_32F), y(kSide, kSide, CV_32F);
-  for (auto _ : state) cv::polarToCart(p.re, p.im, x, y);
-  CountElements(state);
+  Run(state, [](const Planes& p, const Planes&) {
+    return [&p, x = Plane(), y = Plane()]() mutable {
+      cv::polarToCart(p.re, p.im, x, y);
+    };
+  });
 }
 
 void BM_DotProd_vok(benchmark::State& state) {
-  vok_bench::SetThreads(1);
-  const Planes p;
-  Vok32f dot = 0;
-  for (auto _ : state) {
-    voksDotProd_32f(p.re.ptr<Vok32f>(), p.im.ptr<Vok32f>(), kSide * kSide, &dot);
-    benchmark::DoNotOptimize(dot);
-  }
-  CountElements(state);
+  Run(state, [](const Planes& p, const Planes&) {
+    return [&p] {
+      Vok32f dot = 0;
+      voksDotProd_32f(p.re.ptr<Vok32f>(), p.im.ptr<Vok32f>(), kSide * kSide, &dot);
+      benchmark::DoNotOptimize(dot);
+    };
+  });
 }
 void BM_DotProd_cv(benchmark::State& state) {
-  vok_bench::SetThreads(1);
-  const Planes p;
-  for (auto _ : state) benchmark::DoNotOptimize(p.re.dot(p.im));
-  CountElements(state);
+  Run(state, [](const Planes& p, const Planes&) {
+    return [&p] { benchmark::DoNotOptimize(p.re.dot(p.im)); };
+  });
 }
 
 void BM_ComplexMul_vok(benchmark::State& state) {
-  vok_bench::SetThreads(1);
-  const Planes a, b;
-  cv::Mat out(kSide, kSide, CV_32FC2);
-  const int step = static_cast<int>(out.step);
-  for (auto _ : state)
-    vokiMul_32fc_C1R(a.complex(), step, b.complex(), step, out.ptr<Vok32fc>(), step,
-                     VokiSize{kSide, kSide});
-  CountElements(state);
+  Run(state, [](const Planes& a, const Planes& b) {
+    return [&a, &b, out = Plane(CV_32FC2)]() mutable {
+      const int step = static_cast<int>(out.step);
+      vokiMul_32fc_C1R(a.complex(), step, b.complex(), step,
+                       out.ptr<Vok32fc>(), step, VokiSize{kSide, kSide});
+    };
+  });
 }
 void BM_ComplexMul_cv(benchmark::State& state) {
-  vok_bench::SetThreads(1);
-  const Planes a, b;
-  cv::Mat out(kSide, kSide, CV_32FC2);
-  for (auto _ : state) cv::mulSpectrums(a.pairs, b.pairs, out, 0);
-  CountElements(state);
+  Run(state, [](const Planes& a, const Planes& b) {
+    return [&a, &b, out = Plane(CV_32FC2)]() mutable {
+      cv::mulSpectrums(a.pairs, b.pairs, out, 0);
+    };
+  });
 }
 
 }  // namespace
