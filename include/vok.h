@@ -1807,6 +1807,76 @@ VOK_API VokStatus vokiBGRToCbYCr422_8u_AC4C2R(const Vok8u* src, int srcStep, Vok
 VOK_API VokStatus vokiCbYCr422ToRGB_8u_C2C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi);
 VOK_API VokStatus vokiCbYCr422ToBGR_8u_C2C4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, Vok8u aval);
 
+/* ---- Filters with user kernels -------------------------------------------
+ * A true convolution, flipped in both axes: with anchor (ax, ay),
+ * dst(x, y) = sum of K[m][n] x src(x + ax - n, y + ay - m). The source must
+ * hold kw - 1 - ax readable columns left of the region, ax to its right,
+ * kh - 1 - ay rows above and ay below; no border is synthesised. Integer
+ * kernels on 8u sum exactly and divide by `divisor` (a power of two shifts
+ * with ties up, any other divisor multiplies by its float reciprocal); 16s
+ * forms fold 1 / divisor into a float kernel. Float kernels sum float
+ * products in the window's raster order. AC4 leaves alpha untouched. */
+VOK_API VokStatus vokiFilter_8u_C1R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, VokiSize kernelSize, VokiPoint anchor, int divisor);
+VOK_API VokStatus vokiFilter_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, VokiSize kernelSize, VokiPoint anchor, int divisor);
+VOK_API VokStatus vokiFilter_8u_C4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, VokiSize kernelSize, VokiPoint anchor, int divisor);
+VOK_API VokStatus vokiFilter_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, VokiSize kernelSize, VokiPoint anchor, int divisor);
+VOK_API VokStatus vokiFilter_16s_C1R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, VokiSize kernelSize, VokiPoint anchor, int divisor);
+VOK_API VokStatus vokiFilter_16s_C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, VokiSize kernelSize, VokiPoint anchor, int divisor);
+VOK_API VokStatus vokiFilter_16s_C4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, VokiSize kernelSize, VokiPoint anchor, int divisor);
+VOK_API VokStatus vokiFilter_16s_AC4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, VokiSize kernelSize, VokiPoint anchor, int divisor);
+VOK_API VokStatus vokiFilter32f_8u_C1R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilter32f_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilter32f_8u_C4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilter32f_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilter32f_16s_C1R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilter32f_16s_C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilter32f_16s_C4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilter32f_16s_AC4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilter_32f_C1R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilter_32f_C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilter_32f_C4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilter_32f_AC4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, VokiSize kernelSize, VokiPoint anchor);
+VOK_API VokStatus vokiFilterRow_8u_C1R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int xAnchor, int divisor);
+VOK_API VokStatus vokiFilterRow_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int xAnchor, int divisor);
+VOK_API VokStatus vokiFilterRow_8u_C4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int xAnchor, int divisor);
+VOK_API VokStatus vokiFilterRow_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int xAnchor, int divisor);
+VOK_API VokStatus vokiFilterRow_16s_C1R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int xAnchor, int divisor);
+VOK_API VokStatus vokiFilterRow_16s_C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int xAnchor, int divisor);
+VOK_API VokStatus vokiFilterRow_16s_C4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int xAnchor, int divisor);
+VOK_API VokStatus vokiFilterRow_16s_AC4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int xAnchor, int divisor);
+VOK_API VokStatus vokiFilterRow32f_8u_C1R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterRow32f_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterRow32f_8u_C4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterRow32f_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterRow32f_16s_C1R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterRow32f_16s_C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterRow32f_16s_C4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterRow32f_16s_AC4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterRow_32f_C1R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterRow_32f_C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterRow_32f_C4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterRow_32f_AC4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int xAnchor);
+VOK_API VokStatus vokiFilterColumn_8u_C1R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int yAnchor, int divisor);
+VOK_API VokStatus vokiFilterColumn_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int yAnchor, int divisor);
+VOK_API VokStatus vokiFilterColumn_8u_C4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int yAnchor, int divisor);
+VOK_API VokStatus vokiFilterColumn_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int yAnchor, int divisor);
+VOK_API VokStatus vokiFilterColumn_16s_C1R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int yAnchor, int divisor);
+VOK_API VokStatus vokiFilterColumn_16s_C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int yAnchor, int divisor);
+VOK_API VokStatus vokiFilterColumn_16s_C4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int yAnchor, int divisor);
+VOK_API VokStatus vokiFilterColumn_16s_AC4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32s* kernel, int kernelSize, int yAnchor, int divisor);
+VOK_API VokStatus vokiFilterColumn32f_8u_C1R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+VOK_API VokStatus vokiFilterColumn32f_8u_C3R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+VOK_API VokStatus vokiFilterColumn32f_8u_C4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+VOK_API VokStatus vokiFilterColumn32f_8u_AC4R(const Vok8u* src, int srcStep, Vok8u* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+VOK_API VokStatus vokiFilterColumn32f_16s_C1R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+VOK_API VokStatus vokiFilterColumn32f_16s_C3R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+VOK_API VokStatus vokiFilterColumn32f_16s_C4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+VOK_API VokStatus vokiFilterColumn32f_16s_AC4R(const Vok16s* src, int srcStep, Vok16s* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+VOK_API VokStatus vokiFilterColumn_32f_C1R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+VOK_API VokStatus vokiFilterColumn_32f_C3R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+VOK_API VokStatus vokiFilterColumn_32f_C4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+VOK_API VokStatus vokiFilterColumn_32f_AC4R(const Vok32f* src, int srcStep, Vok32f* dst, int dstStep, VokiSize roi, const Vok32f* kernel, int kernelSize, int yAnchor);
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif
