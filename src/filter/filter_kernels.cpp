@@ -149,6 +149,10 @@ void FilterSamples(D d1, const FilterJob& job, int y, size_t begin,
       FilterBlock<1, kRowSums, D, TS, TD, TK>(d1, job, y, x, out, false);
 }
 
+// Vectors of output samples in flight: enough independent sums to hide the
+// latency of the float adds, few enough to stay in registers.
+constexpr size_t kBlock = 8;
+
 template <typename TS, typename TD, typename TK>
 void Rows(const FilterJob& job, int y0, int y1) {
   using TA = std::conditional_t<std::is_integral_v<TK>, int32_t, float>;
@@ -162,8 +166,8 @@ void Rows(const FilterJob& job, int y0, int y1) {
     TD* out = RowAt(static_cast<TD*>(job.dst), job.dstStep, y);
     if (end >= lanes) {
       size_t x = 0;
-      for (; x + 4 * lanes <= end; x += 4 * lanes)
-        FilterBlock<4, false, decltype(d), TS, TD, TK>(d, job, y, x, out,
+      for (; x + kBlock * lanes <= end; x += kBlock * lanes)
+        FilterBlock<kBlock, false, decltype(d), TS, TD, TK>(d, job, y, x, out,
                                                        keepAlpha);
       for (; x + lanes <= end; x += lanes)
         FilterBlock<1, false, decltype(d), TS, TD, TK>(d, job, y, x, out,
