@@ -39,6 +39,14 @@ const std::vector<Geometry>& TestGeometries(size_t sampleSize) {
   return sampleSize == 1 ? bytes : samples;
 }
 
+Shape RandomShape(std::mt19937& rng, size_t sampleSize, int maxHeight) {
+  const auto& widths = TestWidths();
+  const auto& geometries = TestGeometries(sampleSize);
+  const int width = widths[rng() % widths.size()];
+  const int height = 1 + int(rng() % maxHeight);
+  return {width, height, geometries[rng() % geometries.size()]};
+}
+
 ThreadCount::ThreadCount(int threads) : previous_(omp_get_max_threads()) {
   omp_set_num_threads(threads);
 }

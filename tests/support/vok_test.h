@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <functional>
@@ -143,11 +145,34 @@ struct Geometry {
 };
 const std::vector<Geometry>& TestGeometries(size_t sampleSize);
 
+// One randomized comparison's region: a width from TestWidths(), a height of
+// 1 to maxHeight rows and a geometry from TestGeometries(sampleSize).
+struct Shape {
+  int width, height;
+  Geometry g;
+};
+Shape RandomShape(std::mt19937& rng, size_t sampleSize, int maxHeight = 3);
+
 template <typename T>
 T Saturate(int64_t x) {
   if (x < std::numeric_limits<T>::lowest()) return std::numeric_limits<T>::lowest();
   if (x > std::numeric_limits<T>::max()) return std::numeric_limits<T>::max();
   return static_cast<T>(x);
+}
+
+// A whole number saturated to T's range.
+template <typename T>
+T SaturateWhole(long double x) {
+  return static_cast<T>(std::clamp<long double>(x, std::numeric_limits<T>::lowest(),
+                                                std::numeric_limits<T>::max()));
+}
+
+// The rule of every scale factor: x times 2^-s to nearest, ties to even,
+// saturated. Scales are clamped to +-1000, where every result is 0 or
+// saturated already.
+template <typename T>
+T ScaleToEven(long double x, int s) {
+  return SaturateWhole<T>(std::nearbyint(std::ldexp(x, -std::clamp(s, -1000, 1000))));
 }
 
 // Sets the thread count for the duration of a scope.
