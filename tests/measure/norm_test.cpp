@@ -16,58 +16,49 @@ enum class Kind { kNorm, kDiff, kRel };
 // Every form through one signature: Norm forms ignore the second image and
 // forms without a hint ignore the hint.
 template <typename T>
-using NormFn = VokStatus (*)(const T*, int, const T*, int, VokiSize, Vok64f*,
-                             VokHint);
+using NormFn = VokStatus (*)(const T*, int, const T*, int, VokiSize, Vok64f*, VokHint);
 
 template <typename T>
 struct NormForm {
   const char* name;
   Norm norm;
   Kind kind;
-  int channels;
-  int reported;
+  int channels, reported;
   NormFn<T> fn;
 };
 
-#define ONE_(T, fn) [](const T* a, int as, const T*, int, VokiSize r, Vok64f* o, \
-                       VokHint) { return fn(a, as, r, o); }
-#define ONE_Hint(T, fn) [](const T* a, int as, const T*, int, VokiSize r,       \
-                           Vok64f* o, VokHint h) { return fn(a, as, r, o, h); }
-#define TWO_(T, fn) [](const T* a, int as, const T* b, int bs, VokiSize r,     \
-                       Vok64f* o, VokHint) { return fn(a, as, b, bs, r, o); }
+#define ONE_(T, fn) \
+  [](const T* a, int as, const T*, int, VokiSize r, Vok64f* o, VokHint) { return fn(a, as, r, o); }
+#define ONE_Hint(T, fn)                                                        \
+  [](const T* a, int as, const T*, int, VokiSize r, Vok64f* o, VokHint h) {    \
+    return fn(a, as, r, o, h);                                                 \
+  }
+#define TWO_(T, fn)                                                            \
+  [](const T* a, int as, const T* b, int bs, VokiSize r, Vok64f* o, VokHint) { \
+    return fn(a, as, b, bs, r, o);                                             \
+  }
 #define TWO_Hint(T, fn) fn
-#define NORM_FORM(norm, tok, T, hint, lay, ch, rep)                             \
-  NormForm<T>{"Norm_" #norm "_" #tok "_" #lay, Norm::k##norm, Kind::kNorm, ch, \
-              rep, ONE_##hint(T, vokiNorm_##norm##_##tok##_##lay##R)},          \
-      NormForm<T>{"NormDiff_" #norm "_" #tok "_" #lay, Norm::k##norm,          \
-                  Kind::kDiff, ch, rep,                                        \
-                  TWO_##hint(T, vokiNormDiff_##norm##_##tok##_##lay##R)},       \
-      NormForm<T>{"NormRel_" #norm "_" #tok "_" #lay, Norm::k##norm,           \
-                  Kind::kRel, ch, rep,                                         \
+#define NORM_FORM(norm, tok, T, hint, lay, ch, rep)                                         \
+  NormForm<T>{"Norm_" #norm "_" #tok "_" #lay, Norm::k##norm, Kind::kNorm, ch, rep,         \
+              ONE_##hint(T, vokiNorm_##norm##_##tok##_##lay##R)},                           \
+      NormForm<T>{"NormDiff_" #norm "_" #tok "_" #lay, Norm::k##norm, Kind::kDiff, ch, rep, \
+                  TWO_##hint(T, vokiNormDiff_##norm##_##tok##_##lay##R)},                   \
+      NormForm<T>{"NormRel_" #norm "_" #tok "_" #lay, Norm::k##norm, Kind::kRel, ch, rep,   \
                   TWO_##hint(T, vokiNormRel_##norm##_##tok##_##lay##R)}
-#define NORM_LAYOUTS(norm, tok, T, hint)                                  \
-  NORM_FORM(norm, tok, T, hint, C1, 1, 1),                                \
-      NORM_FORM(norm, tok, T, hint, C3, 3, 3),                            \
-      NORM_FORM(norm, tok, T, hint, C4, 4, 4),                            \
-      NORM_FORM(norm, tok, T, hint, AC4, 4, 3)
+#define NORM_LAYOUTS(norm, tok, T, hint)                                               \
+  NORM_FORM(norm, tok, T, hint, C1, 1, 1), NORM_FORM(norm, tok, T, hint, C3, 3, 3),    \
+      NORM_FORM(norm, tok, T, hint, C4, 4, 4), NORM_FORM(norm, tok, T, hint, AC4, 4, 3)
+#define ALL_NORMS(tok, T, hint) \
+  {NORM_LAYOUTS(Inf, tok, T, ), NORM_LAYOUTS(L1, tok, T, hint), NORM_LAYOUTS(L2, tok, T, hint)}
 
 template <typename T>
 std::vector<NormForm<T>> Forms();
 template <>
-std::vector<NormForm<Vok8u>> Forms() {
-  return {NORM_LAYOUTS(Inf, 8u, Vok8u, ), NORM_LAYOUTS(L1, 8u, Vok8u, ),
-          NORM_LAYOUTS(L2, 8u, Vok8u, )};
-}
+std::vector<NormForm<Vok8u>> Forms() { return ALL_NORMS(8u, Vok8u, ); }
 template <>
-std::vector<NormForm<Vok16s>> Forms() {
-  return {NORM_LAYOUTS(Inf, 16s, Vok16s, ), NORM_LAYOUTS(L1, 16s, Vok16s, ),
-          NORM_LAYOUTS(L2, 16s, Vok16s, )};
-}
+std::vector<NormForm<Vok16s>> Forms() { return ALL_NORMS(16s, Vok16s, ); }
 template <>
-std::vector<NormForm<Vok32f>> Forms() {
-  return {NORM_LAYOUTS(Inf, 32f, Vok32f, ), NORM_LAYOUTS(L1, 32f, Vok32f, Hint),
-          NORM_LAYOUTS(L2, 32f, Vok32f, Hint)};
-}
+std::vector<NormForm<Vok32f>> Forms() { return ALL_NORMS(32f, Vok32f, Hint); }
 
 // The fast 32f norms of one channel run four float lanes through all rows,
 // lane j taking columns j, j + 4, ...; the lanes end as (l0 + l1) + (l2 + l3).
@@ -85,31 +76,22 @@ double FastFloatC1(Norm norm, const Image<Vok32f>& a, const Image<Vok32f>* b) {
 // exact; 32f sums are the accurate path's doubles (even and odd columns
 // apart in C1), or the fast path's floats.
 template <typename T>
-std::vector<double> Measure(Norm norm, const Image<T>& a, const Image<T>* b,
-                            bool accurate) {
+std::vector<double> Measure(Norm norm, const Image<T>& a, const Image<T>* b, bool accurate) {
+  constexpr bool kFloat = std::is_floating_point_v<T>;
   std::vector<double> out(4, 0.0);
-  if constexpr (std::is_floating_point_v<T>) {
-    if (!accurate && norm != Norm::kInf && a.channels() == 1) {
-      out[0] = FastFloatC1(norm, a, b);
-      return out;
-    }
+  if (kFloat && !accurate && norm != Norm::kInf && a.channels() == 1) {
+    if constexpr (kFloat) out[0] = FastFloatC1(norm, a, b);
+    return out;
   }
   double odd = 0.0;
   for (int y = 0; y < a.height(); ++y)
     for (int x = 0; x < a.width(); ++x)
       for (int c = 0; c < a.channels(); ++c) {
-        double d;
-        if (std::is_floating_point_v<T> && norm == Norm::kInf) {
-          d = b ? T(a.at(x, y, c) - b->at(x, y, c)) : a.at(x, y, c);  // float difference
-        } else {
-          d = b ? double(a.at(x, y, c)) - double(b->at(x, y, c)) : a.at(x, y, c);
-        }
-        if (norm == Norm::kInf) {
-          out[c] = std::max(out[c], std::fabs(d));
-        } else {
-          (a.channels() == 1 && x % 2 ? odd : out[c]) +=
-              norm == Norm::kL1 ? std::fabs(d) : d * d;
-        }
+        const T va = a.at(x, y, c), vb = b ? b->at(x, y, c) : T(0);
+        // The float infinity norm subtracts in single precision.
+        const double d = kFloat && norm == Norm::kInf ? double(T(va - vb)) : double(va) - double(vb);
+        if (norm == Norm::kInf) out[c] = std::max(out[c], std::fabs(d));
+        else (a.channels() == 1 && x % 2 ? odd : out[c]) += norm == Norm::kL1 ? std::fabs(d) : d * d;
       }
   if (a.channels() == 1) out[0] = odd + out[0];
   return out;
@@ -121,11 +103,6 @@ std::vector<double> Rooted(Norm norm, std::vector<double> v) {
   return v;
 }
 
-// The relative L2 forms that divide sums of squares under one root.
-bool DividesSquareSums(bool isFloat, int channels, bool accurate) {
-  return channels == 1 || (isFloat && channels == 4 && !accurate);
-}
-
 template <typename T>
 void CompareWithModel(uint32_t seed) {
   std::mt19937 rng(seed);
@@ -134,11 +111,7 @@ void CompareWithModel(uint32_t seed) {
     for (const NormForm<T>& form : Forms<T>()) {
       SCOPED_TRACE(form.name);
       for (int round = 0; round < 8; ++round) {
-        const auto& widths = vok_test::TestWidths();
-        const int width = widths[rng() % widths.size()];
-        const int height = 1 + rng() % 4;
-        const auto& geometries = vok_test::TestGeometries(sizeof(T));
-        const auto g = geometries[rng() % geometries.size()];
+        const auto [width, height, g] = vok_test::RandomShape(rng, sizeof(T), 4);
         Image<T> a(width, height, form.channels, g.padBytes, g.offsetBytes);
         Image<T> b(width, height, form.channels, g.padBytes + 2 * sizeof(T), 0);
         a.randomize(rng);
@@ -152,32 +125,27 @@ void CompareWithModel(uint32_t seed) {
         std::vector<double> want = Rooted(form.norm, Measure(form.norm, a, second, accurate));
         VokStatus wantStatus = vokStatusOk;
         if (form.kind == Kind::kRel) {
-          const bool sums = form.norm == Norm::kL2 &&
-                            DividesSquareSums(kFloat, form.channels, accurate);
+          // One-pass L2 forms divide sums of squares under one root; the
+          // others divide two finished norms. A small denominator in any
+          // channel leaves every channel undivided.
+          const bool squareSums = form.norm == Norm::kL2 &&
+                                  (form.channels == 1 || (kFloat && form.channels == 4 && !accurate));
           std::vector<double> num = Measure(form.norm, a, &b, accurate);
           std::vector<double> den = Measure<T>(form.norm, b, nullptr, accurate);
-          if (!sums) {
-            num = Rooted(form.norm, num);
-            den = Rooted(form.norm, den);
-          }
+          if (!squareSums) num = Rooted(form.norm, num), den = Rooted(form.norm, den);
           for (int c = 0; c < form.reported; ++c)
             if (!(den[c] >= DBL_MIN)) wantStatus = vokWarnDivideByZero;
           for (int c = 0; c < form.reported; ++c) {
             const double ratio = wantStatus ? num[c] : num[c] / den[c];
-            want[c] = sums ? std::sqrt(ratio) : ratio;
+            want[c] = squareSums ? std::sqrt(ratio) : ratio;
           }
         }
         Vok64f got[5] = {-1, -1, -1, -1, -1};
-        ASSERT_EQ(form.fn(a.data(), a.step(), b.data(), b.step(), a.size(), got, hint),
-                  wantStatus);
+        ASSERT_EQ(form.fn(a.data(), a.step(), b.data(), b.step(), a.size(), got, hint), wantStatus);
+        const bool exact = !kFloat || accurate || form.channels == 1 || form.norm == Norm::kInf;
         for (int c = 0; c < form.reported; ++c) {
-          const bool exact = !kFloat || accurate || form.channels == 1 ||
-                             form.norm == Norm::kInf;
-          if (exact) {
-            EXPECT_EQ(got[c], want[c]) << "channel " << c;
-          } else {
-            EXPECT_NEAR(got[c], want[c], 1e-5 * std::fabs(want[c])) << "channel " << c;
-          }
+          if (exact) EXPECT_EQ(got[c], want[c]) << "channel " << c;
+          else EXPECT_NEAR(got[c], want[c], 1e-5 * std::fabs(want[c])) << "channel " << c;
         }
         EXPECT_EQ(got[form.reported], -1);
       }
@@ -215,34 +183,31 @@ TEST(Norm, WideRowsOf8uL2GoByColumnBlocks) {
   Image<Vok8u> a(40000, 2, 3), b(40000, 2, 3);
   a.randomize(rng);
   b.randomize(rng);
-  double blocks[3] = {};
-  for (int x0 : {0, 32768}) {
-    double s[3] = {};
-    for (int y = 0; y < 2; ++y)
-      for (int x = x0; x < std::min(x0 + 32768, 40000); ++x)
-        for (int c = 0; c < 3; ++c) {
-          const double d = double(a.at(x, y, c)) - b.at(x, y, c);
-          s[c] += d * d;
-        }
-    for (int c = 0; c < 3; ++c) blocks[c] += std::sqrt(s[c]) * std::sqrt(s[c]);
-  }
+  // Sum of (a - b)^2 over columns [x0, x1) of channel c.
+  const auto squares = [&](int x0, int x1, int c) {
+    double s = 0;
+    for (int y = 0; y < a.height(); ++y)
+      for (int x = x0; x < x1; ++x) {
+        const double d = double(a.at(x, y, c)) - b.at(x, y, c);
+        s += d * d;
+      }
+    return s;
+  };
   Vok64f v[3];
-  ASSERT_EQ(vokiNormDiff_L2_8u_C3R(a.data(), a.step(), b.data(), b.step(), a.size(), v),
-            vokStatusOk);
-  for (int c = 0; c < 3; ++c) EXPECT_EQ(v[c], std::sqrt(blocks[c]));
-
-  Image<Vok8u> one(40000, 1), other(40000, 1);
-  one.randomize(rng);
-  other.randomize(rng);
+  ASSERT_EQ(vokiNormDiff_L2_8u_C3R(a.data(), a.step(), b.data(), b.step(), a.size(), v), vokStatusOk);
+  for (int c = 0; c < 3; ++c) {
+    const double left = std::sqrt(squares(0, 32768, c)), right = std::sqrt(squares(32768, 40000, c));
+    EXPECT_EQ(v[c], std::sqrt(left * left + right * right));
+  }
+  // The first 40000 bytes of row 0 as one C1 row.
+  Vok64f rel = 0;
+  ASSERT_EQ(vokiNormRel_L2_8u_C1R(a.data(), a.step(), b.data(), b.step(), {40000, 1}, &rel), vokStatusOk);
   double num = 0, den = 0;
   for (int x = 0; x < 40000; ++x) {
-    const double d = double(one.at(x, 0)) - other.at(x, 0);
+    const double d = double(a.row(0)[x]) - b.row(0)[x];
     num += d * d;
-    den += double(other.at(x, 0)) * other.at(x, 0);
+    den += double(b.row(0)[x]) * b.row(0)[x];
   }
-  Vok64f rel = 0;
-  ASSERT_EQ(vokiNormRel_L2_8u_C1R(one.data(), one.step(), other.data(), other.step(),
-                                  one.size(), &rel), vokStatusOk);
   EXPECT_EQ(rel, std::sqrt(num / den));
 }
 
@@ -259,10 +224,7 @@ TEST(Norm, EdgeCases) {
   Vok8u a[8] = {9, 8, 7, 200, 1, 2, 3, 100}, b[8] = {1, 0, 1, 50, 1, 0, 1, 0};
   Vok64f rel[4] = {0, 0, 0, -1};
   EXPECT_EQ(vokiNormRel_Inf_8u_AC4R(a, 8, b, 8, {2, 1}, rel), vokWarnDivideByZero);
-  EXPECT_EQ(rel[0], 8.0);
-  EXPECT_EQ(rel[1], 8.0);
-  EXPECT_EQ(rel[2], 6.0);
-  EXPECT_EQ(rel[3], -1.0);
+  EXPECT_EQ(std::vector<double>(rel, rel + 4), (std::vector<double>{8, 8, 6, -1}));
   b[1] = b[5] = 2;  // alpha still differs, and takes no part
   EXPECT_EQ(vokiNormRel_Inf_8u_AC4R(a, 8, b, 8, {2, 1}, rel), vokStatusOk);
   EXPECT_EQ(rel[1], 6.0 / 2.0);
@@ -276,15 +238,18 @@ TEST(Norm, EdgeCases) {
 
 TEST(Norm, ArgumentChecksInOrder) {
   Vok8u a[16] = {};
+  const auto* f = reinterpret_cast<const Vok32f*>(a);
   Vok64f v = -1;
-  EXPECT_EQ(vokiNorm_L1_8u_C1R(nullptr, 0, {0, 0}, &v), vokStatusNullPointer);
-  EXPECT_EQ(vokiNormDiff_Inf_8u_C3R(a, 4, nullptr, 4, {1, 1}, &v), vokStatusNullPointer);
-  EXPECT_EQ(vokiNormRel_L2_8u_C1R(a, 4, a, 4, {4, 1}, nullptr), vokStatusNullPointer);
-  EXPECT_EQ(vokiNormRel_L2_8u_C1R(a, 0, a, 0, {4, 0}, &v), vokStatusBadSize);
-  EXPECT_EQ(vokiNormDiff_L2_8u_C1R(a, 4, a, 0, {4, 1}, &v), vokStatusBadStep);
-  EXPECT_EQ(vokiNorm_L2_32f_C4R(reinterpret_cast<const Vok32f*>(a), 0, {0, 1}, &v,
-                                vokHintAccurate), vokStatusBadSize);
-  EXPECT_EQ(vokiNorm_Inf_32s_C1R(nullptr, 0, {0, 0}, &v), vokStatusNullPointer);
+  const std::pair<VokStatus, VokStatus> cases[] = {
+      {vokiNorm_L1_8u_C1R(nullptr, 0, {0, 0}, &v), vokStatusNullPointer},
+      {vokiNormDiff_Inf_8u_C3R(a, 4, nullptr, 4, {1, 1}, &v), vokStatusNullPointer},
+      {vokiNormRel_L2_8u_C1R(a, 4, a, 4, {4, 1}, nullptr), vokStatusNullPointer},
+      {vokiNormRel_L2_8u_C1R(a, 0, a, 0, {4, 0}, &v), vokStatusBadSize},
+      {vokiNormDiff_L2_8u_C1R(a, 4, a, 0, {4, 1}, &v), vokStatusBadStep},
+      {vokiNorm_L2_32f_C4R(f, 0, {0, 1}, &v, vokHintAccurate), vokStatusBadSize},
+      {vokiNorm_Inf_32s_C1R(nullptr, 0, {0, 0}, &v), vokStatusNullPointer},
+  };
+  for (size_t i = 0; i < std::size(cases); ++i) EXPECT_EQ(cases[i].first, cases[i].second) << i;
   EXPECT_EQ(v, -1);
 }
 
