@@ -47,6 +47,11 @@ Shape RandomShape(std::mt19937& rng, size_t sampleSize, int maxHeight) {
   return {width, height, geometries[rng() % geometries.size()]};
 }
 
+void ExpectStatuses(std::initializer_list<std::pair<VokStatus, VokStatus>> cases) {
+  int row = 0;
+  for (const auto& [got, want] : cases) EXPECT_EQ(got, want) << "row " << row++;
+}
+
 ThreadCount::ThreadCount(int threads) : previous_(omp_get_max_threads()) {
   omp_set_num_threads(threads);
 }

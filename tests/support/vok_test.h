@@ -9,10 +9,12 @@
 #include <cstdint>
 #include <cstring>
 #include <functional>
+#include <initializer_list>
 #include <limits>
 #include <random>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "vok.h"
@@ -174,6 +176,9 @@ template <typename T>
 T ScaleToEven(long double x, int s) {
   return SaturateWhole<T>(std::nearbyint(std::ldexp(x, -std::clamp(s, -1000, 1000))));
 }
+
+// Checks a table of {status returned, status wanted}, naming the failing row.
+void ExpectStatuses(std::initializer_list<std::pair<VokStatus, VokStatus>> cases);
 
 // Sets the thread count for the duration of a scope.
 class ThreadCount {
