@@ -240,7 +240,7 @@ TEST(Norm, ArgumentChecksInOrder) {
   Vok8u a[16] = {};
   const auto* f = reinterpret_cast<const Vok32f*>(a);
   Vok64f v = -1;
-  const std::pair<VokStatus, VokStatus> cases[] = {
+  vok_test::ExpectStatuses({
       {vokiNorm_L1_8u_C1R(nullptr, 0, {0, 0}, &v), vokStatusNullPointer},
       {vokiNormDiff_Inf_8u_C3R(a, 4, nullptr, 4, {1, 1}, &v), vokStatusNullPointer},
       {vokiNormRel_L2_8u_C1R(a, 4, a, 4, {4, 1}, nullptr), vokStatusNullPointer},
@@ -248,8 +248,7 @@ TEST(Norm, ArgumentChecksInOrder) {
       {vokiNormDiff_L2_8u_C1R(a, 4, a, 0, {4, 1}, &v), vokStatusBadStep},
       {vokiNorm_L2_32f_C4R(f, 0, {0, 1}, &v, vokHintAccurate), vokStatusBadSize},
       {vokiNorm_Inf_32s_C1R(nullptr, 0, {0, 0}, &v), vokStatusNullPointer},
-  };
-  for (size_t i = 0; i < std::size(cases); ++i) EXPECT_EQ(cases[i].first, cases[i].second) << i;
+  });
   EXPECT_EQ(v, -1);
 }
 

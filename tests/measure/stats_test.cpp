@@ -224,7 +224,7 @@ TEST(Stats, ArgumentChecksInOrder) {
   Vok8u value = 0;
   int x = 0, y = 0;
   const auto* f = reinterpret_cast<const Vok32f*>(src);
-  const std::pair<VokStatus, VokStatus> cases[] = {
+  vok_test::ExpectStatuses({
       {vokiSum_8u_C1R(nullptr, 0, {0, 0}, &out), vokStatusNullPointer},
       {vokiSum_8u_C1R(src, 0, {0, 4}, &out), vokStatusBadSize},
       {vokiSum_8u_C1R(src, 0, {4, 4}, &out), vokStatusBadStep},
@@ -237,8 +237,7 @@ TEST(Stats, ArgumentChecksInOrder) {
       {vokiMaxIndx_8u_C1R(src, 0, {4, 4}, &value, &x, &y), vokStatusBadStep},
       {vokiSum_32f_AC4R(nullptr, 0, {0, 0}, sums, vokHintAccurate), vokStatusNullPointer},
       {vokiMean_32f_C3R(f, 0, {1, 0}, sums, vokHintNone), vokStatusBadSize},
-  };
-  for (size_t i = 0; i < std::size(cases); ++i) EXPECT_EQ(cases[i].first, cases[i].second) << i;
+  });
   EXPECT_EQ(out, kUnwritten);
   EXPECT_EQ(value, 0);
 }
