@@ -40,8 +40,10 @@ void CheckScaled(VokStatus (*add)(const T*, const T*, T*, int, int),
   });
 }
 
-TEST(VectorScaled, AddSub16s) { CheckScaled<Vok16s>(voksAdd_16s_Sfs, voksSub_16s_Sfs, {0, 1, 2, 16, 17, -1, -16, -40, INT32_MIN, INT32_MAX}); }
-TEST(VectorScaled, AddSub32s) { CheckScaled<Vok32s>(voksAdd_32s_Sfs, voksSub_32s_Sfs, {0, 1, 5, 32, 33, -1, -31, -40, INT32_MIN, INT32_MAX}); }
+TEST(VectorScaled, AddSubTiesToEvenAndSaturate) {
+  CheckScaled<Vok16s>(voksAdd_16s_Sfs, voksSub_16s_Sfs, {0, 1, 2, 16, 17, -1, -16, -40, INT32_MIN, INT32_MAX});
+  CheckScaled<Vok32s>(voksAdd_32s_Sfs, voksSub_32s_Sfs, {0, 1, 5, 32, 33, -1, -31, -40, INT32_MIN, INT32_MAX});
+}
 
 // The complex vector forms are the rows of the C1 image forms: in particular
 // Sub and Div take the second source as minuend and dividend.
