@@ -357,10 +357,14 @@ template <typename T>
 using YCCFn = VokStatus (*)(const T*, int, T*, int, VokiSize);
 
 // Random images of every test width against a row model: model(source row,
-// width, destination row).
+// width, destination row). Extra widths give more samples to a rule whose
+// rounding bias shows on few of them.
 template <typename T, typename Model>
-void CheckRows(YCCFn<T> fn, int srcChannels, int dstChannels, std::mt19937& rng, Model model) {
-  for (int width : vok_test::TestWidths()) {
+void CheckRows(YCCFn<T> fn, int srcChannels, int dstChannels, std::mt19937& rng, Model model,
+               std::vector<int> extraWidths = {}) {
+  std::vector<int> widths = vok_test::TestWidths();
+  widths.insert(widths.end(), extraWidths.begin(), extraWidths.end());
+  for (int width : widths) {
     const auto [unused, height, g] = vok_test::RandomShape(rng, sizeof(T));
     Image<T> src(width, height, srcChannels, g.padBytes, g.offsetBytes);
     Image<T> dst(width, height, dstChannels, g.padBytes + 4, 0);
@@ -486,7 +490,7 @@ TEST(LumaChroma, ToCbYCr422MatchesModel) {
       CheckRows<Vok8u>(gamma ? vokiRGBToCbYCr422Gamma_8u_C3C2R : vokiRGBToCbYCr422_8u_C3C2R, 3, 2, rng,
                        [&](const Vok8u* row, int width, Vok8u* out) {
                          for (int v : FilteredRow(row, width, gamma)) *out++ = Vok8u(v);
-                       });
+                       }, {16383});
     }
     SCOPED_TRACE("BGR");
     CheckRows<Vok8u>(vokiBGRToCbYCr422_8u_AC4C2R, 4, 2, rng, [](const Vok8u* row, int width, Vok8u* out) {
