@@ -23,23 +23,38 @@ static double now_ms(void) {
 int main(void) {
   const int width = 640, height = 360;
   const VokiSize roi = {width, height};
-  int step = 0, maskStep = 0;
+  int step = 0, maskStep = 0, stripeStep = 0;
   Vok8u* image = vokiMalloc_8u_C3(width, height, &step);
   Vok8u* shade = vokiMalloc_8u_C3(width, height, &maskStep);
-  if (!image || !shade || maskStep != step) return 1;
+  /* The stripes get a border of 2 pixels, which the 5x5 filter reads. */
+  Vok8u* stripes = vokiMalloc_8u_C3(width + 4, height + 4, &stripeStep);
+  if (!image || !shade || !stripes || maskStep != step) return 1;
 
-  /* A colour gradient, and a shading image of diagonal stripes. */
+  /* A colour gradient, and diagonal stripes for shading. */
   for (int y = 0; y < height; ++y)
     for (int x = 0; x < width; ++x) {
       Vok8u* p = image + y * step + 3 * x;
       p[0] = (Vok8u)(255 * x / width);
       p[1] = (Vok8u)(255 * y / height);
       p[2] = (Vok8u)(255 - 255 * x / width);
-      Vok8u* s = shade + y * step + 3 * x;
+    }
+  for (int y = 0; y < height + 4; ++y)
+    for (int x = 0; x < width + 4; ++x) {
+      Vok8u* s = stripes + y * stripeStep + 3 * x;
       s[0] = s[1] = s[2] = ((x + y) / 40) % 2 ? 255 : 140;
     }
   printf("vok %s: a %dx%d RGB image\n", vokiGetLibVersion()->versionText, width, height);
 
+  /* A 5x5 binomial kernel: its taps sum to 256, so the divisor shifts. */
+  Vok32s binomial[25];
+  const Vok32s row[5] = {1, 4, 6, 4, 1};
+  for (int i = 0; i < 25; ++i) binomial[i] = row[i / 5] * row[i % 5];
+  const VokiSize kernelSize = {5, 5};
+  const VokiPoint anchor = {2, 2};
+  /* The library's first parallel region also starts the thread team. */
+  RUN("vokiFilter_8u_C3R: soften the stripes (5x5 binomial)",
+      vokiFilter_8u_C3R(stripes + 2 * stripeStep + 6, stripeStep, shade, step,
+                        roi, binomial, kernelSize, anchor, 256));
   const Vok8u lift[3] = {40, 20, 0};
   RUN("vokiAddC_8u_C3IRSfs: add (40, 20, 0) with saturation",
       vokiAddC_8u_C3IRSfs(lift, image, step, roi, 0));
@@ -52,5 +67,6 @@ int main(void) {
   printf(written == 0 ? "wrote demo.png\n" : "could not write demo.png\n");
   vokiFree(image);
   vokiFree(shade);
+  vokiFree(stripes);
   return written == 0 ? 0 : 1;
 }
