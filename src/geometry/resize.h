@@ -42,27 +42,22 @@ struct SuperPlan {
   double scale;              // xFactor x yFactor
 };
 
-// Horizontal passes first widen a source row's pixels [first, last] to
-// 32-bit lanes. Linear and cubic then read the column table spread over the
-// samples of a line: sample i's first node is at offset[i] in the widened
-// row. Indexed loads of 32-bit lanes measured faster here than gathers.
-// The terms of the horizontal cubic that depend on the fraction t alone,
-// m = t (1 + t) / 2 and n = (t - 1) m / 3, computed once per column.
-struct CubicTerms {
-  float m, n, onePlusT;
-};
-
-inline CubicTerms HorizontalCubicTerms(float t) {
-  const float m = t * (1.0f + t) * 0.5f;
-  return CubicTerms{m, (t - 1.0f) * m / 3.0f, 1.0f + t};
-}
-
+// Horizontal passes first widen a source row's columns [first, last] to
+// 32-bit lanes, reading columns outside the image as the nearest image
+// column. Line samples then go in groups of `groupSize`, one vector each:
+// group g reads tap k of its lanes from the window of `lanes` widened samples
+// at base[g] + k x channels, lane i taking window lane lane[g x lanes + i].
+// Weights are per line sample, one array of `stride` entries per term.
 struct ResizeSamples {
-  int first, last;
-  const int32_t* offset;    // first node of the sample
-  const float* fraction;    // linear 32f
-  const int32_t* fixed;     // linear 8u and 16u
-  const CubicTerms* cubic;  // cubic
+  int first, last;            // widened columns, relative to the ROI origin
+  int imageFirst, imageLast;  // the image's columns, relative likewise
+  int lanes, groupSize, groups;
+  size_t stride;              // line samples plus one vector of slack
+  const int32_t* base;
+  const int32_t* lane;
+  const int32_t* fixed;       // linear 8u and 16u: weight of the second node
+  const float* weights;       // linear 32f: fraction; cubic: m, n and 1 + t
+                              // of the cubic in t; Lanczos: six tap weights
 };
 
 struct ResizeTables {
@@ -81,6 +76,9 @@ struct ResizePlane {
   int channels;    // samples per pixel in memory: 1, 3 or 4
   bool keepAlpha;  // AC4
 };
+
+// Lanes of a float vector on the instruction set that runs the kernels.
+int ResizeLanes();
 
 // Bytes of scratch that one band of rows needs.
 size_t ResizeScratchBytes(const ResizeTables& tables, int channels,

@@ -168,30 +168,84 @@ void BuildSpans(int count, double s, int limit, bool columns, SuperSpan* out) {
   }
 }
 
-// Spreads the linear or cubic column table over the samples of a line.
-bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels,
-                  Scratch<uint8_t>& block, ResizeSamples& out) {
-  const bool cubic = kind == ResizeKind::kCubic;
-  const int before = cubic ? 1 : 0, after = cubic ? 2 : 1;
-  const size_t n = size_t(x.count) * channels;
-  block = AllocateScratch<uint8_t>(
-      n * (2 * sizeof(int32_t) + sizeof(float) + (cubic ? sizeof(CubicTerms) : 0)));
-  if (!block) return false;
-  auto* offset = reinterpret_cast<int32_t*>(block.get());
-  auto* fixed = offset + n;
-  auto* fraction = reinterpret_cast<float*>(fixed + n);
-  auto* terms = reinterpret_cast<CubicTerms*>(fraction + n);
-  const auto [lo, hi] = std::minmax_element(x.index, x.index + x.count);
-  out = ResizeSamples{*lo - before, *hi + after, offset, fraction, fixed,
-                      cubic ? terms : nullptr};
-  for (int j = 0; j < x.count; ++j)
-    for (int c = 0; c < channels; ++c) {
-      const size_t i = size_t(j) * channels + c;
-      offset[i] = (x.index[j] - before - out.first) * channels + c;
-      fixed[i] = x.fixed[j];
-      fraction[i] = x.fraction[j];
-      if (cubic) terms[i] = HorizontalCubicTerms(x.fraction[j]);
+// Taps of each horizontal kernel and how many of them lie left of the node
+// that the column table names.
+int TapsOf(ResizeKind kind) {
+  return kind == ResizeKind::kLinear ? 2 : kind == ResizeKind::kCubic ? 4 : 6;
+}
+int TapsBefore(ResizeKind kind) {
+  return kind == ResizeKind::kCubic ? 1 : kind == ResizeKind::kLanczos ? 2 : 0;
+}
+
+// The largest group of consecutive line samples, at most one vector, whose
+// first taps all fall within one window of `lanes` samples.
+int GroupSize(const int32_t* offset, size_t n, int lanes) {
+  for (int size = lanes; size > 1; --size) {
+    bool fits = true;
+    for (size_t g = 0; g < n && fits; g += size) {
+      const auto [lo, hi] = std::minmax_element(offset + g, offset + std::min(n, g + size));
+      fits = *hi - *lo < lanes;
     }
+    if (fits) return size;
+  }
+  return 1;
+}
+
+// Spreads the column table over the samples of a line: window bases, lanes
+// and weights of each group, for vectors of `lanes` lanes.
+bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels, int lanes,
+                  int origin, int imageWidth, Scratch<uint8_t>& block,
+                  ResizeSamples& out) {
+  const int before = TapsBefore(kind);
+  const size_t n = size_t(x.count) * channels, stride = n + lanes;
+  const auto [lo, hi] = std::minmax_element(x.index, x.index + x.count);
+  const int first = *lo - before;
+  Scratch<int32_t> offset = AllocateScratch<int32_t>(n);
+  if (!offset) return false;
+  for (size_t i = 0; i < n; ++i)
+    offset[i] = (x.index[i / channels] - before - first) * channels + int(i % channels);
+  const int size = GroupSize(offset.get(), n, lanes);
+  const size_t groups = (n + size - 1) / size;
+  const int terms = kind == ResizeKind::kLinear ? 1 : kind == ResizeKind::kCubic ? 3 : 6;
+  block = AllocateScratch<uint8_t>(sizeof(int32_t) * (groups * (1 + lanes) + stride) +
+                                   sizeof(float) * terms * stride);
+  if (!block) return false;
+  auto* base = reinterpret_cast<int32_t*>(block.get());
+  auto* lane = base + groups;
+  auto* fixed = lane + groups * lanes;
+  auto* weights = reinterpret_cast<float*>(fixed + stride);
+  std::fill(fixed, fixed + stride, 0);
+  std::fill(weights, weights + terms * stride, 0.0f);
+  for (size_t g = 0; g < groups; ++g) {
+    const size_t i0 = g * size, count = std::min<size_t>(size, n - i0);
+    base[g] = *std::min_element(offset.get() + i0, offset.get() + i0 + count);
+    for (int l = 0; l < lanes; ++l)
+      lane[g * lanes + l] = size_t(l) < count ? offset[i0 + l] - base[g] : 0;
+  }
+  for (size_t i = 0; i < n; ++i) {
+    const size_t j = i / channels;
+    const float t = x.fraction[j];
+    switch (kind) {
+      case ResizeKind::kLinear:
+        fixed[i] = x.fixed[j];
+        weights[i] = t;
+        break;
+      case ResizeKind::kCubic: {
+        // The terms of the cubic that depend on t alone.
+        const float m = t * (1.0f + t) * 0.5f;
+        weights[i] = m;
+        weights[stride + i] = (t - 1.0f) * m / 3.0f;
+        weights[2 * stride + i] = 1.0f + t;
+        break;
+      }
+      default:
+        for (int k = 0; k < 6; ++k) weights[k * stride + i] = x.weights[6 * j + k];
+        break;
+    }
+  }
+  out = ResizeSamples{first, *hi - before + TapsOf(kind) - 1, -origin,
+                      imageWidth - 1 - origin, lanes, size, int(groups), stride,
+                      base, lane, fixed, weights};
   return true;
 }
 
@@ -249,17 +303,19 @@ double ResizeStep(int interpolation, int roiLength, double factor) {
 
 size_t ResizeScratchBytes(const ResizeTables& tables, int channels,
                           size_t sampleSize) {
-  const size_t line = size_t(tables.x.count) * channels;
-  // Lines, then one source row widened to 32 bits at a 64-byte boundary.
-  const size_t widened =
-      size_t(tables.samples.last - tables.samples.first + 1) * channels * 4;
-  auto withRow = [&](size_t lines) { return ((lines + 63) & ~size_t{63}) + widened; };
+  const ResizeSamples& x = tables.samples;
+  // Lines, then one source row widened to 32 bits at a 64-byte boundary;
+  // both have a vector of slack for the last group's whole-vector access.
+  const size_t widened = (size_t(x.last - x.first + 1) * channels + x.lanes) * 4;
+  auto withRow = [&](size_t lines, size_t lineSample) {
+    return ((lines * x.stride * lineSample + 63) & ~size_t{63}) + widened;
+  };
   switch (tables.kind) {
     case ResizeKind::kNearest: return 0;
     case ResizeKind::kLinear:
-      return withRow(2 * line * (sampleSize == 4 ? sizeof(float) : sizeof(uint16_t)));
-    case ResizeKind::kCubic: return withRow(4 * line * sizeof(float));
-    case ResizeKind::kLanczos: return withRow(6 * line * sizeof(float));
+      return withRow(2, sampleSize == 4 ? sizeof(float) : sizeof(uint16_t));
+    case ResizeKind::kCubic: return withRow(4, sizeof(float));
+    case ResizeKind::kLanczos: return withRow(6, sizeof(float));
     case ResizeKind::kSuper:
       return size_t(tables.super.accumulated) * channels * sizeof(float);
   }
@@ -330,14 +386,10 @@ VokStatus ResizeCore(const ResizeRequest& q) {
   tables.x = x.axis;
   tables.y = y.axis;
   Scratch<uint8_t> samples;
-  if (tables.kind == ResizeKind::kLanczos) {
-    const auto [lo, hi] = std::minmax_element(x.axis.taps, x.axis.taps + 6 * x.axis.count);
-    tables.samples.first = *lo;
-    tables.samples.last = *hi;
-  } else if (tables.kind != ResizeKind::kNearest &&
-             !BuildSamples(tables.kind, tables.x, q.channels, samples, tables.samples)) {
+  if (tables.kind != ResizeKind::kNearest &&
+      !BuildSamples(tables.kind, tables.x, q.channels, ResizeLanes(), roi.x,
+                    q.srcSize.width, samples, tables.samples))
     return vokStatusNoMemory;
-  }
   return RunRows<T>(tables, q, origins);
 }
 

@@ -153,13 +153,28 @@ void NearestRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1) {
 template <typename T>
 constexpr int kLinearOutShift = sizeof(T) == 1 ? 20 : 14;
 
-// Source pixels [first, last] of a row in 32-bit lanes, where the horizontal
-// passes read their nodes: int32 for the fixed-point linear pass, float for
-// the rest.
-template <typename W, typename T>
-void WidenRow(const T* s, size_t count, W* wide) {
+// Fixed-point linear passes widen to int32, the others to float.
+template <typename T, ResizeKind kKind>
+using WideOf = std::conditional_t<kKind == ResizeKind::kLinear && !std::is_same_v<T, float>,
+                                  int32_t, float>;
+
+// Source columns [first, last] of a row in 32-bit lanes; columns outside the
+// image repeat its edge column.
+template <int S, typename W, typename T>
+void WidenRow(const T* s, const ResizeSamples& x, W* wide) {
+  const int columns = x.last - x.first + 1;
+  const int before = std::clamp(x.imageFirst - x.first, 0, columns);
+  const int after = std::clamp(x.last - x.imageLast, 0, columns - before);
+  auto edge = [&](int column, W* to) {
+    const T* from = s + ptrdiff_t{std::clamp(column, x.imageFirst, x.imageLast)} * S;
+    for (int c = 0; c < S; ++c) to[c] = static_cast<W>(LoadSample(from + c));
+  };
+  for (int k = 0; k < before; ++k) edge(x.first + k, wide + k * S);
+  const size_t count = size_t(columns - before - after) * S;
+  const T* in = s + ptrdiff_t{x.first + before} * S;
+  W* out = wide + before * S;
   if constexpr (std::is_same_v<T, float>) {
-    std::memcpy(wide, s, count * sizeof(float));
+    std::memcpy(out, in, count * sizeof(float));
   } else {
     const hn::ScalableTag<int32_t> di;
     const hn::Rebind<T, decltype(di)> dt;
@@ -167,32 +182,63 @@ void WidenRow(const T* s, size_t count, W* wide) {
     const size_t lanes = hn::Lanes(di);
     size_t i = 0;
     for (; i + lanes <= count; i += lanes) {
-      const auto v = hn::PromoteTo(di, hn::LoadU(dt, s + i));
-      if constexpr (std::is_same_v<W, float>) hn::StoreU(hn::ConvertTo(dw, v), dw, wide + i);
-      else hn::StoreU(v, dw, wide + i);
+      const auto v = hn::PromoteTo(di, hn::LoadU(dt, in + i));
+      if constexpr (std::is_same_v<W, float>) hn::StoreU(hn::ConvertTo(dw, v), dw, out + i);
+      else hn::StoreU(v, dw, out + i);
     }
-    for (; i < count; ++i) wide[i] = static_cast<W>(LoadSample(s + i));
+    for (; i < count; ++i) out[i] = static_cast<W>(LoadSample(in + i));
   }
+  for (int k = columns - after; k < columns; ++k) edge(x.first + k, wide + k * S);
 }
 
-template <typename T>
-using WideOf = std::conditional_t<std::is_same_v<T, float>, float, int32_t>;
-
-// 8u lines keep six fraction bits (>> 8), 16u lines the full range (>> 14).
-template <int S, typename T, typename L>
-void LinearLine(const T* s, const ResizeSamples& x, size_t n, void* scratch, L* line) {
-  using W = WideOf<T>;
+// One horizontal line: per group, the taps come from a window of the
+// widened row through one lane permutation, and the kernel runs on whole
+// vectors. Each group stores a whole vector, which the next group partly
+// overwrites; lines have a vector of slack for the last one.
+template <typename T, int S, ResizeKind kKind, typename L>
+void HorizontalLine(const T* s, const ResizeSamples& x, void* scratch, L* line) {
+  using W = WideOf<T, kKind>;
   W* wide = static_cast<W*>(scratch);
-  WidenRow(s + ptrdiff_t{x.first} * S, size_t(x.last - x.first + 1) * S, wide);
-  for (size_t i = 0; i < n; ++i) {
-    const W a = wide[x.offset[i]], b = wide[x.offset[i] + S];
-    if constexpr (std::is_same_v<T, float>) {
-      line[i] = a + (b - a) * x.fraction[i];
-    } else {
+  WidenRow<S>(s, x, wide);
+  const hn::ScalableTag<W> dw;
+  const hn::RebindToSigned<decltype(dw)> di;
+  const hn::ScalableTag<float> df;
+  const size_t lanes = hn::Lanes(dw);
+  const size_t stride = x.stride;
+  for (int g = 0; g < x.groups; ++g) {
+    const size_t i = size_t(g) * x.groupSize;
+    const auto idx = hn::IndicesFromVec(dw, hn::LoadU(di, x.lane + g * lanes));
+    const W* window = wide + x.base[g];
+    auto tap = [&](int k) { return hn::TableLookupLanes(hn::LoadU(dw, window + k * S), idx); };
+    if constexpr (kKind == ResizeKind::kLinear && std::is_same_v<W, int32_t>) {
+      // 8u lines keep six fraction bits (>> 8), 16u lines the full range (>> 14).
       constexpr int shift = sizeof(T) == 1 ? 8 : 14;
-      const int32_t f = x.fixed[i];
-      const int32_t h = (a * (kLinearOne - f) + b * f + (1 << (shift - 1))) >> shift;
-      line[i] = static_cast<L>(std::clamp<int32_t>(h, 0, 65535));
+      const auto f = hn::LoadU(di, x.fixed + i);
+      const auto h = hn::Add(hn::Add(hn::Mul(tap(0), hn::Sub(hn::Set(di, kLinearOne), f)),
+                                     hn::Mul(tap(1), f)),
+                             hn::Set(di, 1 << (shift - 1)));
+      const hn::Rebind<uint16_t, decltype(di)> dl;
+      hn::StoreU(hn::DemoteTo(dl, hn::ShiftRight<shift>(h)), dl, line + i);
+    } else if constexpr (kKind == ResizeKind::kLinear) {
+      const auto a = tap(0);
+      hn::StoreU(hn::Add(a, hn::Mul(hn::Sub(tap(1), a), hn::LoadU(df, x.weights + i))), df,
+                 line + i);
+    } else if constexpr (kKind == ResizeKind::kCubic) {
+      const auto a = tap(0), b = tap(1), c = tap(2);
+      const auto d1 = hn::Sub(b, a);
+      const auto d2 = hn::Sub(hn::Sub(c, b), d1);
+      const auto d3 = hn::Sub(hn::Add(hn::Sub(b, hn::Mul(hn::Set(df, 2.0f), c)), tap(3)), d2);
+      const auto m = hn::LoadU(df, x.weights + i);
+      const auto n = hn::LoadU(df, x.weights + stride + i);
+      const auto onePlusT = hn::LoadU(df, x.weights + 2 * stride + i);
+      hn::StoreU(hn::Add(hn::Add(hn::Add(a, hn::Mul(n, d3)), hn::Mul(m, d2)),
+                         hn::Mul(onePlusT, d1)),
+                 df, line + i);
+    } else {
+      auto sum = hn::Mul(hn::LoadU(df, x.weights + i), tap(0));
+      for (int k = 1; k < 6; ++k)
+        sum = hn::Add(sum, hn::Mul(hn::LoadU(df, x.weights + k * stride + i), tap(k)));
+      hn::StoreU(sum, df, line + i);
     }
   }
 }
@@ -211,6 +257,36 @@ void LinearColumn(const L* h0, const L* h1, const ResizeAxis& y, int row,
                               hn::Mul(hn::LoadU(df, h1 + i), vg));
              },
              [&](size_t i) { return h0[i] * g0 + h1[i] * g; });
+  } else if constexpr (sizeof(T) == 1) {
+    // 8u lines hold at most 15 bits and the weights fit 16 signed bits, so
+    // one multiply-add of interleaved 16-bit pairs gives each exact sum. The
+    // pairs, sums and packs all stay within 128-bit blocks, which keeps the
+    // samples in order.
+    constexpr int shift = kLinearOutShift<T>;
+    const int32_t g = y.fixed[row], g0 = kLinearOne - g;
+    const hn::ScalableTag<int16_t> d16;
+    const hn::RepartitionToWide<decltype(d16)> d32;
+    const hn::Rebind<uint8_t, decltype(d16)> d8;
+    const auto weights = hn::BitCast(
+        d16, hn::Set(d32, int32_t((uint32_t(g) << 16) | (uint32_t(g0) & 0xFFFF))));
+    const auto half = hn::Set(d32, 1 << (shift - 1)), zero = hn::Zero(d32);
+    auto blend = [&](const auto& pairs) {
+      auto unused = zero;
+      return hn::ShiftRight<shift>(
+          hn::ReorderWidenMulAccumulate(d32, pairs, weights, half, unused));
+    };
+    WriteRow(d8, out, n, keepAlpha,
+             [&](size_t i) {
+               const auto a = hn::BitCast(d16, hn::LoadU(hn::RebindToUnsigned<decltype(d16)>(), h0 + i));
+               const auto b = hn::BitCast(d16, hn::LoadU(hn::RebindToUnsigned<decltype(d16)>(), h1 + i));
+               const auto sums = hn::ReorderDemote2To(d16, blend(hn::InterleaveLower(d16, a, b)),
+                                                      blend(hn::InterleaveUpper(d16, a, b)));
+               return hn::DemoteTo(d8, sums);
+             },
+             [&](size_t i) {
+               const int32_t v = (h0[i] * g0 + h1[i] * g + (1 << (shift - 1))) >> shift;
+               return static_cast<T>(std::clamp<int32_t>(v, 0, 255));
+             });
   } else {
     constexpr int shift = kLinearOutShift<T>;
     constexpr int32_t half = 1 << (shift - 1);
@@ -259,21 +335,6 @@ HWY_INLINE V CubicV(D d, V a, V b, V c, V e, V t) {
                  hn::Mul(onePlusT, d1));
 }
 
-template <int S, typename T>
-void CubicLine(const T* s, const ResizeSamples& x, size_t n, void* scratch, float* line) {
-  float* wide = static_cast<float*>(scratch);
-  WidenRow(s + ptrdiff_t{x.first} * S, size_t(x.last - x.first + 1) * S, wide);
-  for (size_t i = 0; i < n; ++i) {
-    const float* p = wide + x.offset[i];
-    const float a = p[0], b = p[S], c = p[2 * S], d = p[3 * S];
-    const CubicTerms k = x.cubic[i];
-    const float d1 = b - a;
-    const float d2 = (c - b) - d1;
-    const float d3 = ((b - 2.0f * c) + d) - d2;
-    line[i] = ((a + k.n * d3) + k.m * d2) + k.onePlusT * d1;
-  }
-}
-
 // Integer results: the run of samples rounded down to a multiple of four
 // converts with a nudge of 1e-5 and ties to even; the last n mod 4 samples
 // of the run truncate instead, and divide by 3 exactly.
@@ -311,25 +372,6 @@ void CubicColumn(const float* const* l, const ResizeAxis& y, int row, T* out,
 }
 
 // ---- Lanczos ---------------------------------------------------------------
-
-// Six taps in order, columns already clamped to the image.
-template <int S, typename T>
-void LanczosLine(const T* s, const ResizeAxis& x, const ResizeSamples& span, void* scratch,
-                 float* line) {
-  float* wide = static_cast<float*>(scratch);
-  WidenRow(s + ptrdiff_t{span.first} * S, size_t(span.last - span.first + 1) * S, wide);
-  for (int j = 0; j < x.count; ++j) {
-    const int32_t* tap = x.taps + 6 * j;
-    const float* w = x.weights + 6 * j;
-    const float* p[6];
-    for (int k = 0; k < 6; ++k) p[k] = wide + ptrdiff_t{tap[k] - span.first} * S;
-    for (int c = 0; c < S; ++c) {
-      float sum = w[0] * p[0][c];
-      for (int k = 1; k < 6; ++k) sum = sum + w[k] * p[k][c];
-      line[j * S + c] = sum;
-    }
-  }
-}
 
 // Integer results sum in double and truncate; float results sum in float.
 template <typename T>
@@ -392,13 +434,11 @@ void InterpolatedRows(const ResizeTables& t, const ResizePlane& p, int y0, int y
   using L = LineOf<T, kKind>;
   constexpr int K = kLinesOf<kKind>;
   const size_t n = size_t(t.x.count) * S;
-  LineCache<L, K> cache(static_cast<L*>(scratch), n);
-  void* wide = static_cast<uint8_t*>(scratch) + ((K * n * sizeof(L) + 63) & ~size_t{63});
+  LineCache<L, K> cache(static_cast<L*>(scratch), t.samples.stride);
+  void* wide = static_cast<uint8_t*>(scratch) +
+               ((K * t.samples.stride * sizeof(L) + 63) & ~size_t{63});
   auto fill = [&](int32_t row, L* line) {
-    const T* s = SrcRow<T>(p, row);
-    if constexpr (kKind == ResizeKind::kLinear) LinearLine<S>(s, t.samples, n, wide, line);
-    else if constexpr (kKind == ResizeKind::kCubic) CubicLine<S>(s, t.samples, n, wide, line);
-    else LanczosLine<S>(s, t.x, t.samples, wide, line);
+    HorizontalLine<T, S, kKind>(SrcRow<T>(p, row), t.samples, wide, line);
   };
   for (int y = y0; y < y1; ++y) {
     int32_t rows[K];
@@ -539,6 +579,7 @@ void ResizeRows16u(const ResizeTables& t, const ResizePlane& p, int y0, int y1, 
 void ResizeRows32f(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* scratch) {
   Rows<float>(t, p, y0, y1, scratch);
 }
+int FloatLanes() { return int(hn::Lanes(hn::ScalableTag<float>())); }
 
 }  // namespace HWY_NAMESPACE
 }  // namespace vok
@@ -550,6 +591,9 @@ namespace vok {
 HWY_EXPORT(ResizeRows8u);
 HWY_EXPORT(ResizeRows16u);
 HWY_EXPORT(ResizeRows32f);
+HWY_EXPORT(FloatLanes);
+
+int ResizeLanes() { return HWY_DYNAMIC_DISPATCH(FloatLanes)(); }
 
 template <>
 void ResizeRows<Vok8u>(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* scratch) {
