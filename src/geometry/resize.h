@@ -55,7 +55,8 @@ struct ResizeSamples {
   size_t stride;              // line samples plus one vector of slack
   const int32_t* base;
   const int32_t* lane;
-  const int32_t* fixed;       // linear 8u and 16u: weight of the second node
+  const int32_t* fixed;       // linear 8u and 16u: the weights of both nodes,
+                              // 16-bit each, the second in the upper half
   const float* weights;       // linear 32f: fraction; cubic: m, n and 1 + t
                               // of the cubic in t; Lanczos: six tap weights
 };

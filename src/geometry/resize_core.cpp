@@ -227,7 +227,8 @@ bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels, int lanes,
     const float t = x.fraction[j];
     switch (kind) {
       case ResizeKind::kLinear:
-        fixed[i] = x.fixed[j];
+        fixed[i] = int32_t((uint32_t(x.fixed[j]) << 16) |
+                           (uint32_t(kLinearOne - x.fixed[j]) & 0xFFFF));
         weights[i] = t;
         break;
       case ResizeKind::kCubic: {

@@ -159,15 +159,24 @@ using WideOf = std::conditional_t<kKind == ResizeKind::kLinear && !std::is_same_
                                   int32_t, float>;
 
 // Source columns [first, last] of a row in 32-bit lanes; columns outside the
-// image repeat its edge column.
-template <int S, typename W, typename T>
+// image repeat its edge column. Paired rows (8u linear) hold in each lane
+// the sample and, in the upper 16 bits, the same sample one column on, the
+// two nodes that one multiply-add of 16-bit pairs weighs.
+template <int S, bool kPaired, typename W, typename T>
 void WidenRow(const T* s, const ResizeSamples& x, W* wide) {
-  const int columns = x.last - x.first + 1;
+  const int last = x.last - (kPaired ? 1 : 0), imageLast = x.imageLast - (kPaired ? 1 : 0);
+  const int columns = last - x.first + 1;
   const int before = std::clamp(x.imageFirst - x.first, 0, columns);
-  const int after = std::clamp(x.last - x.imageLast, 0, columns - before);
+  const int after = std::clamp(last - imageLast, 0, columns - before);
+  auto sampleAt = [&](int column, int c) {
+    return static_cast<W>(
+        LoadSample(s + ptrdiff_t{std::clamp(column, x.imageFirst, x.imageLast)} * S + c));
+  };
   auto edge = [&](int column, W* to) {
-    const T* from = s + ptrdiff_t{std::clamp(column, x.imageFirst, x.imageLast)} * S;
-    for (int c = 0; c < S; ++c) to[c] = static_cast<W>(LoadSample(from + c));
+    for (int c = 0; c < S; ++c) {
+      if constexpr (kPaired) to[c] = sampleAt(column, c) | sampleAt(column + 1, c) << 16;
+      else to[c] = sampleAt(column, c);
+    }
   };
   for (int k = 0; k < before; ++k) edge(x.first + k, wide + k * S);
   const size_t count = size_t(columns - before - after) * S;
@@ -182,11 +191,15 @@ void WidenRow(const T* s, const ResizeSamples& x, W* wide) {
     const size_t lanes = hn::Lanes(di);
     size_t i = 0;
     for (; i + lanes <= count; i += lanes) {
-      const auto v = hn::PromoteTo(di, hn::LoadU(dt, in + i));
+      auto v = hn::PromoteTo(di, hn::LoadU(dt, in + i));
+      if constexpr (kPaired) v = hn::Or(v, hn::ShiftLeft<16>(hn::PromoteTo(di, hn::LoadU(dt, in + i + S))));
       if constexpr (std::is_same_v<W, float>) hn::StoreU(hn::ConvertTo(dw, v), dw, out + i);
       else hn::StoreU(v, dw, out + i);
     }
-    for (; i < count; ++i) out[i] = static_cast<W>(LoadSample(in + i));
+    for (; i < count; ++i) {
+      if constexpr (kPaired) out[i] = W(LoadSample(in + i)) | W(LoadSample(in + i + S)) << 16;
+      else out[i] = static_cast<W>(LoadSample(in + i));
+    }
   }
   for (int k = columns - after; k < columns; ++k) edge(x.first + k, wide + k * S);
 }
@@ -198,11 +211,13 @@ void WidenRow(const T* s, const ResizeSamples& x, W* wide) {
 template <typename T, int S, ResizeKind kKind, typename L>
 void HorizontalLine(const T* s, const ResizeSamples& x, void* scratch, L* line) {
   using W = WideOf<T, kKind>;
+  constexpr bool kPaired = kKind == ResizeKind::kLinear && sizeof(T) == 1;
   W* wide = static_cast<W*>(scratch);
-  WidenRow<S>(s, x, wide);
+  WidenRow<S, kPaired>(s, x, wide);
   const hn::ScalableTag<W> dw;
   const hn::RebindToSigned<decltype(dw)> di;
   const hn::ScalableTag<float> df;
+  const hn::Rebind<uint16_t, decltype(di)> dl;
   const size_t lanes = hn::Lanes(dw);
   const size_t stride = x.stride;
   for (int g = 0; g < x.groups; ++g) {
@@ -210,15 +225,23 @@ void HorizontalLine(const T* s, const ResizeSamples& x, void* scratch, L* line) 
     const auto idx = hn::IndicesFromVec(dw, hn::LoadU(di, x.lane + g * lanes));
     const W* window = wide + x.base[g];
     auto tap = [&](int k) { return hn::TableLookupLanes(hn::LoadU(dw, window + k * S), idx); };
-    if constexpr (kKind == ResizeKind::kLinear && std::is_same_v<W, int32_t>) {
-      // 8u lines keep six fraction bits (>> 8), 16u lines the full range (>> 14).
-      constexpr int shift = sizeof(T) == 1 ? 8 : 14;
-      const auto f = hn::LoadU(di, x.fixed + i);
+    if constexpr (kPaired) {
+      // Samples of 8 bits and weights of at most 15 give exact 32-bit sums;
+      // lines keep six fraction bits.
+      const hn::Repartition<int16_t, decltype(di)> d16;
+      auto unused = hn::Zero(di);
+      const auto h = hn::ReorderWidenMulAccumulate(
+          di, hn::BitCast(d16, tap(0)), hn::BitCast(d16, hn::LoadU(di, x.fixed + i)),
+          hn::Set(di, 1 << 7), unused);
+      hn::StoreU(hn::DemoteTo(dl, hn::ShiftRight<8>(h)), dl, line + i);
+    } else if constexpr (kKind == ResizeKind::kLinear && std::is_same_v<W, int32_t>) {
+      // 16u lines keep the full range.
+      const auto weights = hn::LoadU(di, x.fixed + i);
+      const auto f = hn::ShiftRight<16>(weights);
       const auto h = hn::Add(hn::Add(hn::Mul(tap(0), hn::Sub(hn::Set(di, kLinearOne), f)),
                                      hn::Mul(tap(1), f)),
-                             hn::Set(di, 1 << (shift - 1)));
-      const hn::Rebind<uint16_t, decltype(di)> dl;
-      hn::StoreU(hn::DemoteTo(dl, hn::ShiftRight<shift>(h)), dl, line + i);
+                             hn::Set(di, 1 << 13));
+      hn::StoreU(hn::DemoteTo(dl, hn::ShiftRight<14>(h)), dl, line + i);
     } else if constexpr (kKind == ResizeKind::kLinear) {
       const auto a = tap(0);
       hn::StoreU(hn::Add(a, hn::Mul(hn::Sub(tap(1), a), hn::LoadU(df, x.weights + i))), df,
