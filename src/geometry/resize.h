@@ -35,11 +35,10 @@ struct SuperSpan {
 };
 
 struct SuperPlan {
-  const SuperSpan* columns;  // over the row accumulator
-  const SuperSpan* rows;     // over the source rows
-  int accumulated;           // pixels of each row that are accumulated
-  bool wholeSums;            // both source steps are whole numbers
-  double scale;              // xFactor x yFactor
+  const SuperSpan* rows;  // over the source rows
+  int accumulated;        // pixels of each row that are accumulated
+  bool wholeSums;         // both source steps are whole numbers
+  double scale;           // xFactor x yFactor
 };
 
 // Horizontal passes first widen a source row's columns [first, last] to
@@ -48,17 +47,20 @@ struct SuperPlan {
 // group g reads tap k of its lanes from the window of `lanes` widened samples
 // at base[g] + k x channels, lane i taking window lane lane[g x lanes + i].
 // Weights are per line sample, one array of `stride` entries per term.
+// Supersampling reads its row accumulator the same way, with `taps` entries
+// per output and a weight of 0 where an output has fewer.
 struct ResizeSamples {
   int first, last;            // widened columns, relative to the ROI origin
   int imageFirst, imageLast;  // the image's columns, relative likewise
-  int lanes, groupSize, groups;
+  int lanes, groupSize, groups, taps;
   size_t stride;              // line samples plus one vector of slack
   const int32_t* base;
   const int32_t* lane;
   const int32_t* fixed;       // linear 8u and 16u: the weights of both nodes,
                               // 16-bit each, the second in the upper half
   const float* weights;       // linear 32f: fraction; cubic: m, n and 1 + t
-                              // of the cubic in t; Lanczos: six tap weights
+                              // of the cubic in t; Lanczos: six tap weights;
+                              // supersampling: the entries' weights
 };
 
 struct ResizeTables {

@@ -191,37 +191,67 @@ int GroupSize(const int32_t* offset, size_t n, int lanes) {
   return 1;
 }
 
-// Spreads the column table over the samples of a line: window bases, lanes
-// and weights of each group, for vectors of `lanes` lanes.
+// The weights of a plan, writable while the tables are built.
+struct GroupWeights {
+  int32_t* fixed;
+  float* weights;
+};
+
+// Window bases and lanes of the groups over the first-tap offsets of n line
+// samples, with room for `taps` weight arrays, all zero. Null weights when
+// memory is short.
+GroupWeights PlanGroups(const int32_t* offset, size_t n, int lanes, int taps,
+                Scratch<uint8_t>& block, ResizeSamples& out) {
+  const int size = GroupSize(offset, n, lanes);
+  const size_t groups = (n + size - 1) / size, stride = n + lanes;
+  block = AllocateScratch<uint8_t>(sizeof(int32_t) * (groups * (1 + lanes) + stride) +
+                                   sizeof(float) * taps * stride);
+  if (!block) return {nullptr, nullptr};
+  auto* base = reinterpret_cast<int32_t*>(block.get());
+  auto* lane = base + groups;
+  auto* fixed = lane + groups * lanes;
+  auto* weights = reinterpret_cast<float*>(fixed + stride);
+  std::fill(fixed, fixed + stride, 0);
+  std::fill(weights, weights + taps * stride, 0.0f);
+  for (size_t g = 0; g < groups; ++g) {
+    const size_t i0 = g * size, count = std::min<size_t>(size, n - i0);
+    base[g] = *std::min_element(offset + i0, offset + i0 + count);
+    for (int l = 0; l < lanes; ++l)
+      lane[g * lanes + l] = size_t(l) < count ? offset[i0 + l] - base[g] : 0;
+  }
+  out.lanes = lanes;
+  out.groupSize = size;
+  out.groups = int(groups);
+  out.taps = taps;
+  out.stride = stride;
+  out.base = base;
+  out.lane = lane;
+  out.fixed = fixed;
+  out.weights = weights;
+  return {fixed, weights};
+}
+
+// Spreads the column table over the samples of a line, for vectors of
+// `lanes` lanes.
 bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels, int lanes,
                   int origin, int imageWidth, Scratch<uint8_t>& block,
                   ResizeSamples& out) {
   const int before = TapsBefore(kind);
-  const size_t n = size_t(x.count) * channels, stride = n + lanes;
+  const size_t n = size_t(x.count) * channels;
   const auto [lo, hi] = std::minmax_element(x.index, x.index + x.count);
   const int first = *lo - before;
   Scratch<int32_t> offset = AllocateScratch<int32_t>(n);
   if (!offset) return false;
   for (size_t i = 0; i < n; ++i)
     offset[i] = (x.index[i / channels] - before - first) * channels + int(i % channels);
-  const int size = GroupSize(offset.get(), n, lanes);
-  const size_t groups = (n + size - 1) / size;
   const int terms = kind == ResizeKind::kLinear ? 1 : kind == ResizeKind::kCubic ? 3 : 6;
-  block = AllocateScratch<uint8_t>(sizeof(int32_t) * (groups * (1 + lanes) + stride) +
-                                   sizeof(float) * terms * stride);
-  if (!block) return false;
-  auto* base = reinterpret_cast<int32_t*>(block.get());
-  auto* lane = base + groups;
-  auto* fixed = lane + groups * lanes;
-  auto* weights = reinterpret_cast<float*>(fixed + stride);
-  std::fill(fixed, fixed + stride, 0);
-  std::fill(weights, weights + terms * stride, 0.0f);
-  for (size_t g = 0; g < groups; ++g) {
-    const size_t i0 = g * size, count = std::min<size_t>(size, n - i0);
-    base[g] = *std::min_element(offset.get() + i0, offset.get() + i0 + count);
-    for (int l = 0; l < lanes; ++l)
-      lane[g * lanes + l] = size_t(l) < count ? offset[i0 + l] - base[g] : 0;
-  }
+  const auto [fixed, weights] = PlanGroups(offset.get(), n, lanes, terms, block, out);
+  if (!weights) return false;
+  out.first = first;
+  out.last = *hi - before + TapsOf(kind) - 1;
+  out.imageFirst = -origin;
+  out.imageLast = imageWidth - 1 - origin;
+  const size_t stride = out.stride;
   for (size_t i = 0; i < n; ++i) {
     const size_t j = i / channels;
     const float t = x.fraction[j];
@@ -244,9 +274,38 @@ bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels, int lanes,
         break;
     }
   }
-  out = ResizeSamples{first, *hi - before + TapsOf(kind) - 1, -origin,
-                      imageWidth - 1 - origin, lanes, size, int(groups), stride,
-                      base, lane, fixed, weights};
+  return true;
+}
+
+// Spreads the column spans of supersampling over the samples of a line:
+// each output reads consecutive accumulator entries, the first and last
+// perhaps weighted, the others whole (weight 1, which multiplies exactly).
+bool BuildSuperSamples(const SuperSpan* columns, int count, int channels, int lanes,
+                       Scratch<uint8_t>& block, ResizeSamples& out) {
+  const size_t n = size_t(count) * channels;
+  Scratch<int32_t> offset = AllocateScratch<int32_t>(n);
+  if (!offset) return false;
+  int taps = 1;
+  for (int j = 0; j < count; ++j) {
+    const SuperSpan& span = columns[j];
+    const int first = span.head != 0 ? span.begin - 1 : span.begin;
+    taps = std::max(taps, span.end - first + (span.tail != 0 ? 1 : 0));
+    for (int c = 0; c < channels; ++c) offset[size_t(j) * channels + c] = first * channels + c;
+  }
+  float* weights = PlanGroups(offset.get(), n, lanes, taps, block, out).weights;
+  if (!weights) return false;
+  for (int j = 0; j < count; ++j) {
+    const SuperSpan& span = columns[j];
+    int t = 0;
+    auto put = [&](float weight) {
+      for (int c = 0; c < channels; ++c)
+        weights[t * out.stride + size_t(j) * channels + c] = weight;
+      ++t;
+    };
+    if (span.head != 0) put(span.head);
+    for (int e = span.begin; e < span.end; ++e) put(1.0f);
+    if (span.tail != 0) put(span.tail);
+  }
   return true;
 }
 
@@ -318,7 +377,10 @@ size_t ResizeScratchBytes(const ResizeTables& tables, int channels,
     case ResizeKind::kCubic: return withRow(4, sizeof(float));
     case ResizeKind::kLanczos: return withRow(6, sizeof(float));
     case ResizeKind::kSuper:
-      return size_t(tables.super.accumulated) * channels * sizeof(float);
+      // The accumulator with slack for the windows of its last group, then
+      // the column sums of one row.
+      return (size_t(tables.super.accumulated) * channels + x.taps * channels + x.lanes) * 4 +
+             x.stride * 4;
   }
   return 0;
 }
@@ -368,8 +430,11 @@ VokStatus ResizeCore(const ResizeRequest& q) {
     if (!spans) return vokStatusNoMemory;
     BuildSpans(ax.count, sx, tables.super.accumulated, true, spans.get());
     BuildSpans(ay.count, sy, roiH, false, spans.get() + ax.count);
-    tables.super.columns = spans.get();
     tables.super.rows = spans.get() + ax.count;
+    Scratch<uint8_t> samples;
+    if (!BuildSuperSamples(spans.get(), ax.count, q.channels, ResizeLanes(), samples,
+                           tables.samples))
+      return vokStatusNoMemory;
     return RunRows<T>(tables, q, origins);
   }
 

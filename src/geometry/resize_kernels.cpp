@@ -483,36 +483,40 @@ void InterpolatedRows(const ResizeTables& t, const ResizePlane& p, int y0, int y
 // ---- Supersampling -----------------------------------------------------------
 
 // acc += weight x row over n samples; a weight of 1 adds the row as it is.
-// Whole-number steps accumulate integer samples exactly in 32 bits.
+// The first row of a sum is stored instead, which is what adding it to the
+// empty sum gives. Whole-number steps accumulate integer samples exactly in
+// 32 bits.
 template <typename Acc, typename T>
-void AccumulateRow(Acc* acc, const T* row, size_t n, float weight) {
+void AccumulateRow(Acc* acc, const T* row, size_t n, float weight, bool first) {
   const hn::ScalableTag<Acc> da;
   const size_t lanes = hn::Lanes(da);
-  size_t i = 0;
-  if constexpr (std::is_same_v<Acc, uint32_t>) {
-    const hn::Rebind<T, decltype(da)> dt;
-    for (; i + lanes <= n; i += lanes)
-      hn::StoreU(hn::Add(hn::LoadU(da, acc + i), hn::PromoteTo(da, hn::LoadU(dt, row + i))), da, acc + i);
-    for (; i < n; ++i) acc[i] += LoadSample(row + i);
-  } else {
-    auto load = [&](size_t at) {
+  const bool weighted = weight != 1.0f;
+  const auto vw = hn::Set(hn::ScalableTag<float>(), weight);
+  auto term = [&](size_t at) {
+    if constexpr (std::is_same_v<Acc, uint32_t>) {
+      return hn::PromoteTo(da, hn::LoadU(hn::Rebind<T, decltype(da)>(), row + at));
+    } else {
+      hn::Vec<decltype(da)> v;
       if constexpr (std::is_same_v<T, float>) {
-        return hn::LoadU(da, row + at);
+        v = hn::LoadU(da, row + at);
       } else {
         const hn::ScalableTag<int32_t> di;
-        return hn::ConvertTo(da, hn::PromoteTo(di, hn::LoadU(hn::Rebind<T, decltype(di)>(), row + at)));
+        v = hn::ConvertTo(da, hn::PromoteTo(di, hn::LoadU(hn::Rebind<T, decltype(di)>(), row + at)));
       }
-    };
-    if (weight == 1.0f) {
-      for (; i + lanes <= n; i += lanes)
-        hn::StoreU(hn::Add(hn::LoadU(da, acc + i), load(i)), da, acc + i);
-      for (; i < n; ++i) acc[i] = acc[i] + float(LoadSample(row + i));
-    } else {
-      const auto vw = hn::Set(da, weight);
-      for (; i + lanes <= n; i += lanes)
-        hn::StoreU(hn::Add(hn::LoadU(da, acc + i), hn::Mul(vw, load(i))), da, acc + i);
-      for (; i < n; ++i) acc[i] = acc[i] + weight * float(LoadSample(row + i));
+      return weighted ? hn::Mul(vw, v) : v;
     }
+  };
+  auto scalarTerm = [&](size_t at) -> Acc {
+    if constexpr (std::is_same_v<Acc, uint32_t>) return LoadSample(row + at);
+    else return weighted ? weight * float(LoadSample(row + at)) : float(LoadSample(row + at));
+  };
+  size_t i = 0;
+  if (first) {
+    for (; i + lanes <= n; i += lanes) hn::StoreU(term(i), da, acc + i);
+    for (; i < n; ++i) acc[i] = scalarTerm(i);
+  } else {
+    for (; i + lanes <= n; i += lanes) hn::StoreU(hn::Add(hn::LoadU(da, acc + i), term(i)), da, acc + i);
+    for (; i < n; ++i) acc[i] = acc[i] + scalarTerm(i);
   }
 }
 
@@ -520,40 +524,101 @@ void AccumulateRow(Acc* acc, const T* row, size_t n, float weight) {
 template <typename Acc>
 constexpr Acc kEmptySum = std::is_same_v<Acc, float> ? Acc(-0.0f) : Acc(0);
 
-template <typename Acc>
-inline Acc Weighted(Acc v, float w) {
-  if constexpr (std::is_same_v<Acc, float>) return v * w;
-  else return v;  // whole-number steps only ever weigh by 1
+// The sum of each output's accumulator entries, in order, into `sums`. An
+// output with fewer entries than the plan's taps has weight 0 at the rest,
+// which its lanes skip. Whole-number steps weigh every entry by 1.
+template <int S, typename Acc>
+void ColumnSums(const Acc* acc, const ResizeSamples& x, Acc* sums) {
+  const hn::ScalableTag<Acc> da;
+  const hn::RebindToSigned<decltype(da)> di;
+  const hn::ScalableTag<float> df;
+  const size_t lanes = hn::Lanes(da);
+  for (int g = 0; g < x.groups; ++g) {
+    const size_t i = size_t(g) * x.groupSize;
+    const auto idx = hn::IndicesFromVec(da, hn::LoadU(di, x.lane + g * lanes));
+    const Acc* window = acc + x.base[g];
+    auto sum = hn::Set(da, kEmptySum<Acc>);
+    for (int k = 0; k < x.taps; ++k) {
+      const auto w = hn::LoadU(df, x.weights + k * x.stride + i);
+      const auto active = hn::RebindMask(da, hn::Ne(w, hn::Zero(df)));
+      const auto entry = hn::TableLookupLanes(hn::LoadU(da, window + k * S), idx);
+      if constexpr (std::is_same_v<Acc, float>) {
+        sum = hn::IfThenElse(active, hn::Add(sum, hn::Mul(entry, w)), sum);
+      } else {
+        sum = hn::Add(sum, hn::IfThenElseZero(active, entry));
+      }
+    }
+    hn::StoreU(sum, da, sums + i);
+  }
+}
+
+// 32-bit sums widened to double: unsigned sums can pass 2^31.
+template <class DD, typename Acc>
+HWY_INLINE auto SumsToDouble(DD dd, const Acc* sums) {
+  const hn::Rebind<Acc, DD> da;
+  if constexpr (std::is_same_v<Acc, float>) {
+    return hn::PromoteTo(dd, hn::LoadU(da, sums));
+  } else {
+    const hn::Rebind<int32_t, DD> di;
+    const auto v = hn::PromoteTo(dd, hn::BitCast(di, hn::LoadU(da, sums)));
+    return hn::IfThenElse(hn::Lt(v, hn::Zero(dd)), hn::Add(v, hn::Set(dd, 4294967296.0)), v);
+  }
+}
+
+// Outputs from the sums: sum x scale in double, then float results as they
+// are and integer results + 0.5, truncated.
+template <typename T, typename Acc>
+void WriteSums(const Acc* sums, double scale, T* out, size_t n, bool keepAlpha) {
+  const hn::ScalableTag<float> df;
+  const hn::Rebind<T, decltype(df)> dt;
+  const hn::ScalableTag<double> dd;
+  const size_t half = hn::Lanes(dd);
+  auto scaled = [&](size_t i) {
+    auto v = hn::Mul(SumsToDouble(dd, sums + i), hn::Set(dd, scale));
+    if constexpr (std::is_same_v<T, float>) {
+      return hn::DemoteTo(hn::Rebind<float, decltype(dd)>(), v);
+    } else {
+      v = hn::Min(hn::Add(v, hn::Set(dd, 0.5)), hn::Set(dd, double(kMaxOf<T>)));
+      return hn::DemoteTo(hn::Rebind<int32_t, decltype(dd)>(), v);
+    }
+  };
+  WriteRow(dt, out, n, keepAlpha,
+           [&](size_t i) {
+             if constexpr (std::is_same_v<T, float>) {
+               return hn::Combine(df, scaled(i + half), scaled(i));
+             } else {
+               const hn::RebindToSigned<decltype(df)> di;
+               return SaturatingNarrow(dt, hn::Combine(di, scaled(i + half), scaled(i)));
+             }
+           },
+           [&](size_t i) {
+             const double v = double(sums[i]) * scale;
+             if constexpr (std::is_same_v<T, float>) return static_cast<float>(v);
+             else return static_cast<T>(std::clamp(std::trunc(v + 0.5), 0.0, double(kMaxOf<T>)));
+           });
 }
 
 template <typename T, int S, typename Acc>
-void SuperRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1, Acc* acc) {
+void SuperRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* scratch) {
   const SuperPlan& plan = t.super;
-  const size_t n = size_t(plan.accumulated) * S;
-  const int copied = p.keepAlpha ? 3 : S;
+  const ResizeSamples& x = t.samples;
+  const size_t n = size_t(plan.accumulated) * S, slack = size_t(x.taps) * S + x.lanes;
+  Acc* acc = static_cast<Acc*>(scratch);
+  Acc* sums = acc + n + slack;
+  std::fill(acc + n, acc + n + slack, Acc(0));
   for (int y = y0; y < y1; ++y) {
     const SuperSpan rows = plan.rows[y];
-    std::fill(acc, acc + n, kEmptySum<Acc>);
-    if (rows.head != 0) AccumulateRow(acc, SrcRow<T>(p, rows.begin - 1), n, rows.head);
-    for (int32_t r = rows.begin; r < rows.end; ++r) AccumulateRow(acc, SrcRow<T>(p, r), n, 1.0f);
-    if (rows.tail != 0) AccumulateRow(acc, SrcRow<T>(p, rows.end), n, rows.tail);
-    T* out = DstRow<T>(p, y);
-    for (int j = 0; j < t.x.count; ++j) {
-      const SuperSpan cols = plan.columns[j];
-      for (int c = 0; c < copied; ++c) {
-        Acc sum = kEmptySum<Acc>;
-        if (cols.head != 0) sum = sum + Weighted(acc[(cols.begin - 1) * S + c], cols.head);
-        for (int32_t e = cols.begin; e < cols.end; ++e) sum = sum + acc[e * S + c];
-        if (cols.tail != 0) sum = sum + Weighted(acc[cols.end * S + c], cols.tail);
-        const double scaled = double(sum) * plan.scale;
-        if constexpr (std::is_same_v<T, float>) {
-          StoreSample(out + j * S + c, static_cast<float>(scaled));
-        } else {
-          StoreSample(out + j * S + c,
-                      static_cast<T>(std::clamp(std::trunc(scaled + 0.5), 0.0, double(kMaxOf<T>))));
-        }
-      }
-    }
+    bool first = true;
+    auto add = [&](int32_t r, float weight) {
+      AccumulateRow(acc, SrcRow<T>(p, r), n, weight, first);
+      first = false;
+    };
+    if (rows.head != 0) add(rows.begin - 1, rows.head);
+    for (int32_t r = rows.begin; r < rows.end; ++r) add(r, 1.0f);
+    if (rows.tail != 0) add(rows.end, rows.tail);
+    if (first) std::fill(acc, acc + n, kEmptySum<Acc>);
+    ColumnSums<S>(acc, x, sums);
+    WriteSums(sums, plan.scale, DstRow<T>(p, y), size_t(t.x.count) * S, p.keepAlpha);
   }
 }
 
@@ -576,9 +641,9 @@ void RowsOf(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void* s
     case ResizeKind::kSuper:
       if constexpr (!std::is_same_v<T, float>) {
         if (t.super.wholeSums)
-          return SuperRows<T, S>(t, p, y0, y1, static_cast<uint32_t*>(scratch));
+          return SuperRows<T, S, uint32_t>(t, p, y0, y1, scratch);
       }
-      return SuperRows<T, S>(t, p, y0, y1, static_cast<float*>(scratch));
+      return SuperRows<T, S, float>(t, p, y0, y1, scratch);
   }
 }
 
