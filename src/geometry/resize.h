@@ -53,6 +53,9 @@ struct ResizeSamples {
   int first, last;            // widened columns, relative to the ROI origin
   int imageFirst, imageLast;  // the image's columns, relative likewise
   int lanes, groupSize, groups, taps;
+  int direct;                 // leading groups whose windows lie in the image
+  int widenFrom;              // the first column, after `first`, that any
+                              // later group reads
   size_t stride;              // line samples plus one vector of slack
   const int32_t* base;
   const int32_t* lane;

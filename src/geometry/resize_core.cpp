@@ -251,6 +251,15 @@ bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels, int lanes,
   out.last = *hi - before + TapsOf(kind) - 1;
   out.imageFirst = -origin;
   out.imageLast = imageWidth - 1 - origin;
+  const int reach = (TapsOf(kind) - 1) * channels + lanes;
+  const int inImage = (out.imageLast - first + 1) * channels;
+  out.direct = 0;
+  while (first >= out.imageFirst && out.direct < out.groups &&
+         out.base[out.direct] + reach <= inImage)
+    ++out.direct;
+  out.widenFrom = out.last + 1 - first;
+  for (int g = out.direct; g < out.groups; ++g)
+    out.widenFrom = std::min(out.widenFrom, out.base[g] / channels);
   const size_t stride = out.stride;
   for (size_t i = 0; i < n; ++i) {
     const size_t j = i / channels;

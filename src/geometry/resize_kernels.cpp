@@ -163,10 +163,10 @@ using WideOf = std::conditional_t<kKind == ResizeKind::kLinear && !std::is_same_
 // the sample and, in the upper 16 bits, the same sample one column on, the
 // two nodes that one multiply-add of 16-bit pairs weighs.
 template <int S, bool kPaired, typename W, typename T>
-void WidenRow(const T* s, const ResizeSamples& x, W* wide) {
+void WidenRow(const T* s, const ResizeSamples& x, int first, W* wide) {
   const int last = x.last - (kPaired ? 1 : 0), imageLast = x.imageLast - (kPaired ? 1 : 0);
-  const int columns = last - x.first + 1;
-  const int before = std::clamp(x.imageFirst - x.first, 0, columns);
+  const int columns = std::max(last - first + 1, 0);
+  const int before = std::clamp(x.imageFirst - first, 0, columns);
   const int after = std::clamp(last - imageLast, 0, columns - before);
   auto sampleAt = [&](int column, int c) {
     return static_cast<W>(
@@ -178,9 +178,9 @@ void WidenRow(const T* s, const ResizeSamples& x, W* wide) {
       else to[c] = sampleAt(column, c);
     }
   };
-  for (int k = 0; k < before; ++k) edge(x.first + k, wide + k * S);
+  for (int k = 0; k < before; ++k) edge(first + k, wide + k * S);
   const size_t count = size_t(columns - before - after) * S;
-  const T* in = s + ptrdiff_t{x.first + before} * S;
+  const T* in = s + ptrdiff_t{first + before} * S;
   W* out = wide + before * S;
   if constexpr (std::is_same_v<T, float>) {
     std::memcpy(out, in, count * sizeof(float));
@@ -201,7 +201,7 @@ void WidenRow(const T* s, const ResizeSamples& x, W* wide) {
       else out[i] = static_cast<W>(LoadSample(in + i));
     }
   }
-  for (int k = columns - after; k < columns; ++k) edge(x.first + k, wide + k * S);
+  for (int k = columns - after; k < columns; ++k) edge(first + k, wide + k * S);
 }
 
 // One horizontal line: per group, the taps come from a window of the
@@ -212,8 +212,13 @@ template <typename T, int S, ResizeKind kKind, typename L>
 void HorizontalLine(const T* s, const ResizeSamples& x, void* scratch, L* line) {
   using W = WideOf<T, kKind>;
   constexpr bool kPaired = kKind == ResizeKind::kLinear && sizeof(T) == 1;
+  // Float rows serve their windows in place as far as those stay in the
+  // image; the rest come from a widened copy of the row's end.
+  const int direct = std::is_same_v<T, W> ? x.direct : 0;
+  const W* row = reinterpret_cast<const W*>(s) + ptrdiff_t{x.first} * S;
+  const int from = direct > 0 ? x.widenFrom : 0;
   W* wide = static_cast<W*>(scratch);
-  WidenRow<S, kPaired>(s, x, wide);
+  WidenRow<S, kPaired>(s, x, x.first + from, wide);
   const hn::ScalableTag<W> dw;
   const hn::RebindToSigned<decltype(dw)> di;
   const hn::ScalableTag<float> df;
@@ -223,7 +228,7 @@ void HorizontalLine(const T* s, const ResizeSamples& x, void* scratch, L* line) 
   for (int g = 0; g < x.groups; ++g) {
     const size_t i = size_t(g) * x.groupSize;
     const auto idx = hn::IndicesFromVec(dw, hn::LoadU(di, x.lane + g * lanes));
-    const W* window = wide + x.base[g];
+    const W* window = g < direct ? row + x.base[g] : wide + (x.base[g] - from * S);
     auto tap = [&](int k) { return hn::TableLookupLanes(hn::LoadU(dw, window + k * S), idx); };
     if constexpr (kPaired) {
       // Samples of 8 bits and weights of at most 15 give exact 32-bit sums;
