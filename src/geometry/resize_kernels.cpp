@@ -51,22 +51,37 @@ HWY_INLINE void StoreSample(T* p, T v) {
   std::memcpy(p, &v, sizeof(T));
 }
 
+// How a destination row is written: AC4 alpha keeps its value, and large
+// destinations go past the cache, where reading them in first would only
+// cost bandwidth.
+struct WriteMode {
+  bool keepAlpha, stream;
+};
+
 // Writes n samples of a destination row: whole vectors from vec(i), the rest
-// from one(i). AC4 alpha keeps its value.
+// from one(i). Streamed rows take the samples before the first vector
+// boundary one at a time.
 template <class D, typename T, class Vec, class One>
-HWY_INLINE void WriteRow(D d, T* out, size_t n, bool keepAlpha, const Vec& vec,
+HWY_INLINE void WriteRow(D d, T* out, size_t n, WriteMode mode, const Vec& vec,
                          const One& one) {
   const size_t lanes = hn::Lanes(d);
   size_t i = 0;
-  if (keepAlpha) {
+  if (mode.keepAlpha) {
     const auto alpha = AlphaLanes(d);
     for (; i + lanes <= n; i += lanes)
       hn::StoreU(hn::IfThenElse(alpha, hn::LoadU(d, out + i), vec(i)), d, out + i);
-  } else {
-    for (; i + lanes <= n; i += lanes) hn::StoreU(vec(i), d, out + i);
+  } else if (mode.stream) {
+    const size_t bytes = lanes * sizeof(T);
+    const size_t head = (bytes - reinterpret_cast<uintptr_t>(out) % bytes) % bytes;
+    if (head % sizeof(T) == 0) {
+      for (const size_t first = std::min(head / sizeof(T), n); i < first; ++i)
+        StoreSample(out + i, one(i));
+      for (; i + lanes <= n; i += lanes) hn::Stream(vec(i), d, out + i);
+    }
   }
+  for (; i + lanes <= n; i += lanes) hn::StoreU(vec(i), d, out + i);
   for (; i < n; ++i)
-    if (!keepAlpha || (i & 3) != 3) StoreSample(out + i, one(i));
+    if (!mode.keepAlpha || (i & 3) != 3) StoreSample(out + i, one(i));
 }
 
 // Float lanes rounded to nearest with ties to even and saturated to an
@@ -273,13 +288,13 @@ void HorizontalLine(const T* s, const ResizeSamples& x, void* scratch, L* line) 
 
 template <typename T, typename L>
 void LinearColumn(const L* h0, const L* h1, const ResizeAxis& y, int row,
-                  T* out, size_t n, bool keepAlpha) {
+                  T* out, size_t n, WriteMode mode) {
   const hn::ScalableTag<float> df;
   const hn::Rebind<T, decltype(df)> dt;
   if constexpr (std::is_same_v<T, float>) {
     const float g = y.fraction[row], g0 = 1.0f - g;
     const auto vg = hn::Set(df, g), vg0 = hn::Set(df, g0);
-    WriteRow(dt, out, n, keepAlpha,
+    WriteRow(dt, out, n, mode,
              [&](size_t i) {
                return hn::Add(hn::Mul(hn::LoadU(df, h0 + i), vg0),
                               hn::Mul(hn::LoadU(df, h1 + i), vg));
@@ -303,7 +318,7 @@ void LinearColumn(const L* h0, const L* h1, const ResizeAxis& y, int row,
       return hn::ShiftRight<shift>(
           hn::ReorderWidenMulAccumulate(d32, pairs, weights, half, unused));
     };
-    WriteRow(d8, out, n, keepAlpha,
+    WriteRow(d8, out, n, mode,
              [&](size_t i) {
                const auto a = hn::BitCast(d16, hn::LoadU(hn::RebindToUnsigned<decltype(d16)>(), h0 + i));
                const auto b = hn::BitCast(d16, hn::LoadU(hn::RebindToUnsigned<decltype(d16)>(), h1 + i));
@@ -322,7 +337,7 @@ void LinearColumn(const L* h0, const L* h1, const ResizeAxis& y, int row,
     const hn::ScalableTag<int32_t> di;
     const hn::Rebind<uint16_t, decltype(di)> dl;
     const auto vg = hn::Set(di, g), vg0 = hn::Set(di, g0), vhalf = hn::Set(di, half);
-    WriteRow(dt, out, n, keepAlpha,
+    WriteRow(dt, out, n, mode,
              [&](size_t i) {
                const auto a = hn::PromoteTo(di, hn::LoadU(dl, h0 + i));
                const auto b = hn::PromoteTo(di, hn::LoadU(dl, h1 + i));
@@ -368,13 +383,13 @@ HWY_INLINE V CubicV(D d, V a, V b, V c, V e, V t) {
 // of the run truncate instead, and divide by 3 exactly.
 template <int S, typename T>
 void CubicColumn(const float* const* l, const ResizeAxis& y, int row, T* out,
-                 size_t n, bool keepAlpha) {
+                 size_t n, WriteMode mode) {
   const hn::ScalableTag<float> df;
   const hn::Rebind<T, decltype(df)> dt;
   const float t = y.fraction[row];
   constexpr bool kFloat = std::is_same_v<T, float>;
   const auto vt = hn::Set(df, t), nudge = hn::Set(df, 1e-5f);
-  WriteRow(dt, out, n, keepAlpha,
+  WriteRow(dt, out, n, mode,
            [&](size_t i) {
              const auto v = CubicV(df, hn::LoadU(df, l[0] + i), hn::LoadU(df, l[1] + i),
                                    hn::LoadU(df, l[2] + i), hn::LoadU(df, l[3] + i), vt);
@@ -386,9 +401,9 @@ void CubicColumn(const float* const* l, const ResizeAxis& y, int row, T* out,
              if constexpr (kFloat) return v;
              else return static_cast<T>(std::clamp(std::nearbyint(v + 1e-5f), 0.0f, kMaxOf<T>));
            });
-  const size_t run = keepAlpha ? n / 4 * 3 : n;
+  const size_t run = mode.keepAlpha ? n / 4 * 3 : n;
   for (size_t r = run & ~size_t{3}; r < run; ++r) {
-    const size_t i = keepAlpha ? r / 3 * 4 + r % 3 : r;
+    const size_t i = mode.keepAlpha ? r / 3 * 4 + r % 3 : r;
     const float v = Cubic<true>(l[0][i], l[1][i], l[2][i], l[3][i], t);
     if constexpr (kFloat) {
       StoreSample(out + i, v);
@@ -404,12 +419,12 @@ void CubicColumn(const float* const* l, const ResizeAxis& y, int row, T* out,
 // Integer results sum in double and truncate; float results sum in float.
 template <typename T>
 void LanczosColumn(const float* const* l, const ResizeAxis& y, int row, T* out,
-                   size_t n, bool keepAlpha) {
+                   size_t n, WriteMode mode) {
   const hn::ScalableTag<float> df;
   const hn::Rebind<T, decltype(df)> dt;
   const float* w = y.weights + 6 * row;
   if constexpr (std::is_same_v<T, float>) {
-    WriteRow(dt, out, n, keepAlpha,
+    WriteRow(dt, out, n, mode,
              [&](size_t i) {
                auto sum = hn::Mul(hn::LoadU(df, l[0] + i), hn::Set(df, w[0]));
                for (int k = 1; k < 6; ++k)
@@ -436,7 +451,7 @@ void LanczosColumn(const float* const* l, const ResizeAxis& y, int row, T* out,
       return hn::DemoteTo(diHalf, hn::Min(hn::Max(v, hn::Zero(dd)),
                                           hn::Set(dd, double(kMaxOf<T>))));
     };
-    WriteRow(dt, out, n, keepAlpha,
+    WriteRow(dt, out, n, mode,
              [&](size_t i) {
                return SaturatingNarrow(dt, hn::Combine(di, sumAt(i + half), sumAt(i)));
              },
@@ -468,6 +483,7 @@ void InterpolatedRows(const ResizeTables& t, const ResizePlane& p, int y0, int y
   auto fill = [&](int32_t row, L* line) {
     HorizontalLine<T, S, kKind>(SrcRow<T>(p, row), t.samples, wide, line);
   };
+  const WriteMode mode{p.keepAlpha, n * sizeof(T) * t.y.count >= kStreamingBytes};
   for (int y = y0; y < y1; ++y) {
     int32_t rows[K];
     if constexpr (kKind == ResizeKind::kLanczos) {
@@ -479,10 +495,11 @@ void InterpolatedRows(const ResizeTables& t, const ResizePlane& p, int y0, int y
     const L* lines[K];
     cache.Fetch(rows, lines, fill);
     T* out = DstRow<T>(p, y);
-    if constexpr (kKind == ResizeKind::kLinear) LinearColumn(lines[0], lines[1], t.y, y, out, n, p.keepAlpha);
-    else if constexpr (kKind == ResizeKind::kCubic) CubicColumn<S>(lines, t.y, y, out, n, p.keepAlpha);
-    else LanczosColumn(lines, t.y, y, out, n, p.keepAlpha);
+    if constexpr (kKind == ResizeKind::kLinear) LinearColumn(lines[0], lines[1], t.y, y, out, n, mode);
+    else if constexpr (kKind == ResizeKind::kCubic) CubicColumn<S>(lines, t.y, y, out, n, mode);
+    else LanczosColumn(lines, t.y, y, out, n, mode);
   }
+  hwy::FlushStream();
 }
 
 // ---- Supersampling -----------------------------------------------------------
@@ -573,7 +590,7 @@ HWY_INLINE auto SumsToDouble(DD dd, const Acc* sums) {
 // Outputs from the sums: sum x scale in double, then float results as they
 // are and integer results + 0.5, truncated.
 template <typename T, typename Acc>
-void WriteSums(const Acc* sums, double scale, T* out, size_t n, bool keepAlpha) {
+void WriteSums(const Acc* sums, double scale, T* out, size_t n, WriteMode mode) {
   const hn::ScalableTag<float> df;
   const hn::Rebind<T, decltype(df)> dt;
   const hn::ScalableTag<double> dd;
@@ -587,7 +604,7 @@ void WriteSums(const Acc* sums, double scale, T* out, size_t n, bool keepAlpha) 
       return hn::DemoteTo(hn::Rebind<int32_t, decltype(dd)>(), v);
     }
   };
-  WriteRow(dt, out, n, keepAlpha,
+  WriteRow(dt, out, n, mode,
            [&](size_t i) {
              if constexpr (std::is_same_v<T, float>) {
                return hn::Combine(df, scaled(i + half), scaled(i));
@@ -623,7 +640,7 @@ void SuperRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void
     if (rows.tail != 0) add(rows.end, rows.tail);
     if (first) std::fill(acc, acc + n, kEmptySum<Acc>);
     ColumnSums<S>(acc, x, sums);
-    WriteSums(sums, plan.scale, DstRow<T>(p, y), size_t(t.x.count) * S, p.keepAlpha);
+    WriteSums(sums, plan.scale, DstRow<T>(p, y), size_t(t.x.count) * S, {p.keepAlpha, false});
   }
 }
 
