@@ -460,6 +460,7 @@ VokStatus ResizeCore(const ResizeRequest& q) {
     return vokStatusNoMemory;
   tables.x = x.axis;
   tables.y = y.axis;
+  tables.samples.imageLast = q.srcSize.width - 1 - roi.x;
   Scratch<uint8_t> samples;
   if (tables.kind != ResizeKind::kNearest &&
       !BuildSamples(tables.kind, tables.x, q.channels, ResizeLanes(), roi.x,

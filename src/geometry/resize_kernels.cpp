@@ -8,6 +8,7 @@
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 
 #include <algorithm>
+#include <bit>
 #include <climits>
 #include <cmath>
 #include <cstring>
@@ -146,6 +147,7 @@ class LineCache {
 // kCopied samples of each S-sample pixel; AC4 copies three of four.
 template <typename T, int S, int kCopied>
 void NearestRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1) {
+  constexpr size_t kPixel = kCopied * sizeof(T), kWide = std::bit_ceil(kPixel);
   const size_t rowBytes = size_t(t.x.count) * S * sizeof(T);
   for (int y = y0; y < y1; ++y) {
     T* out = DstRow<T>(p, y);
@@ -154,10 +156,18 @@ void NearestRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1) {
       continue;
     }
     const T* s = SrcRow<T>(p, t.y.index[y]);
-    for (int j = 0; j < t.x.count; ++j) {
-      const T* from = s + ptrdiff_t{t.x.index[j]} * S;
-      std::memcpy(out + j * S, from, kCopied * sizeof(T));
+    int j = 0;
+    if constexpr (kCopied == S && kWide != kPixel) {
+      // Pixels of 3, 6 or 12 bytes move as one word of the next power of two
+      // where the source has the bytes and the next pixel overwrites them.
+      for (; j + 1 < t.x.count; ++j) {
+        const T* from = s + ptrdiff_t{t.x.index[j]} * S;
+        if (t.x.index[j] < t.samples.imageLast) std::memcpy(out + j * S, from, kWide);
+        else std::memcpy(out + j * S, from, kPixel);
+      }
     }
+    for (; j < t.x.count; ++j)
+      std::memcpy(out + j * S, s + ptrdiff_t{t.x.index[j]} * S, kPixel);
   }
 }
 
