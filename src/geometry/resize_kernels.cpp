@@ -514,41 +514,49 @@ void InterpolatedRows(const ResizeTables& t, const ResizePlane& p, int y0, int y
 
 // ---- Supersampling -----------------------------------------------------------
 
-// acc += weight x row over n samples; a weight of 1 adds the row as it is.
-// The first row of a sum is stored instead, which is what adding it to the
-// empty sum gives. Whole-number steps accumulate integer samples exactly in
-// 32 bits.
+// Up to this many source rows go into the accumulator in one pass, which
+// keeps that many streams of memory in flight.
+constexpr int kRowsPerPass = 4;
+
+// acc += weight[k] x rows[k] over n samples for k = 0 .. count - 1, in that
+// order; a weight of 1 adds the row as it is. The first rows of a sum are
+// stored instead of added, which is what adding them to the empty sum gives.
+// Whole-number steps accumulate integer samples exactly in 32 bits.
 template <typename Acc, typename T>
-void AccumulateRow(Acc* acc, const T* row, size_t n, float weight, bool first) {
+void AccumulateRows(Acc* acc, const T* const* rows, const float* weights, int count,
+                    size_t n, bool first) {
   const hn::ScalableTag<Acc> da;
+  const hn::ScalableTag<float> df;
   const size_t lanes = hn::Lanes(da);
-  const bool weighted = weight != 1.0f;
-  const auto vw = hn::Set(hn::ScalableTag<float>(), weight);
-  auto term = [&](size_t at) {
+  auto term = [&](int k, size_t at) {
     if constexpr (std::is_same_v<Acc, uint32_t>) {
-      return hn::PromoteTo(da, hn::LoadU(hn::Rebind<T, decltype(da)>(), row + at));
+      return hn::PromoteTo(da, hn::LoadU(hn::Rebind<T, decltype(da)>(), rows[k] + at));
     } else {
       hn::Vec<decltype(da)> v;
       if constexpr (std::is_same_v<T, float>) {
-        v = hn::LoadU(da, row + at);
+        v = hn::LoadU(da, rows[k] + at);
       } else {
         const hn::ScalableTag<int32_t> di;
-        v = hn::ConvertTo(da, hn::PromoteTo(di, hn::LoadU(hn::Rebind<T, decltype(di)>(), row + at)));
+        v = hn::ConvertTo(da, hn::PromoteTo(di, hn::LoadU(hn::Rebind<T, decltype(di)>(), rows[k] + at)));
       }
-      return weighted ? hn::Mul(vw, v) : v;
+      return weights[k] != 1.0f ? hn::Mul(hn::Set(df, weights[k]), v) : v;
     }
   };
-  auto scalarTerm = [&](size_t at) -> Acc {
-    if constexpr (std::is_same_v<Acc, uint32_t>) return LoadSample(row + at);
-    else return weighted ? weight * float(LoadSample(row + at)) : float(LoadSample(row + at));
+  auto scalarTerm = [&](int k, size_t at) -> Acc {
+    const auto v = LoadSample(rows[k] + at);
+    if constexpr (std::is_same_v<Acc, uint32_t>) return v;
+    else return weights[k] != 1.0f ? weights[k] * float(v) : float(v);
   };
   size_t i = 0;
-  if (first) {
-    for (; i + lanes <= n; i += lanes) hn::StoreU(term(i), da, acc + i);
-    for (; i < n; ++i) acc[i] = scalarTerm(i);
-  } else {
-    for (; i + lanes <= n; i += lanes) hn::StoreU(hn::Add(hn::LoadU(da, acc + i), term(i)), da, acc + i);
-    for (; i < n; ++i) acc[i] = acc[i] + scalarTerm(i);
+  for (; i + lanes <= n; i += lanes) {
+    auto sum = first ? term(0, i) : hn::Add(hn::LoadU(da, acc + i), term(0, i));
+    for (int k = 1; k < count; ++k) sum = hn::Add(sum, term(k, i));
+    hn::StoreU(sum, da, acc + i);
+  }
+  for (; i < n; ++i) {
+    Acc sum = first ? scalarTerm(0, i) : acc[i] + scalarTerm(0, i);
+    for (int k = 1; k < count; ++k) sum = sum + scalarTerm(k, i);
+    acc[i] = sum;
   }
 }
 
@@ -639,15 +647,27 @@ void SuperRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1, void
   Acc* sums = acc + n + slack;
   std::fill(acc + n, acc + n + slack, Acc(0));
   for (int y = y0; y < y1; ++y) {
-    const SuperSpan rows = plan.rows[y];
+    const SuperSpan span = plan.rows[y];
+    const T* rows[kRowsPerPass];
+    float weights[kRowsPerPass];
+    int count = 0;
     bool first = true;
     auto add = [&](int32_t r, float weight) {
-      AccumulateRow(acc, SrcRow<T>(p, r), n, weight, first);
-      first = false;
+      rows[count] = SrcRow<T>(p, r);
+      weights[count++] = weight;
+      if (count == kRowsPerPass) {
+        AccumulateRows(acc, rows, weights, count, n, first);
+        first = false;
+        count = 0;
+      }
     };
-    if (rows.head != 0) add(rows.begin - 1, rows.head);
-    for (int32_t r = rows.begin; r < rows.end; ++r) add(r, 1.0f);
-    if (rows.tail != 0) add(rows.end, rows.tail);
+    if (span.head != 0) add(span.begin - 1, span.head);
+    for (int32_t r = span.begin; r < span.end; ++r) add(r, 1.0f);
+    if (span.tail != 0) add(span.end, span.tail);
+    if (count > 0) {
+      AccumulateRows(acc, rows, weights, count, n, first);
+      first = false;
+    }
     if (first) std::fill(acc, acc + n, kEmptySum<Acc>);
     ColumnSums<S>(acc, x, sums);
     WriteSums(sums, plan.scale, DstRow<T>(p, y), size_t(t.x.count) * S, {p.keepAlpha, false});
