@@ -64,6 +64,13 @@ struct ResizeSamples {
   const float* weights;       // linear 32f: fraction; cubic: m, n and 1 + t
                               // of the cubic in t; Lanczos: six tap weights;
                               // supersampling: the entries' weights
+  // 8u linear, when every four line samples find both their nodes in 16
+  // bytes of the row: per block of four, the row offset (from `first`) and
+  // the byte shuffle that puts the nodes of each sample side by side in two
+  // 16-bit lanes. The leading `pairBlocks` blocks lie wholly in the image.
+  int pairBlocks;
+  const int32_t* pairBase;
+  const uint8_t* pairShuffle;
 };
 
 struct ResizeTables {

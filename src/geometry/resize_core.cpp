@@ -231,11 +231,47 @@ GroupWeights PlanGroups(const int32_t* offset, size_t n, int lanes, int taps,
   return {fixed, weights};
 }
 
+// Bytes of one block of byte pairs: four samples, two 16-bit nodes each.
+constexpr int kPairBlock = 16;
+
+// The byte-pair blocks of 8u linear lines over the first-node offsets of n
+// samples; false without error when some block's nodes spread over more
+// than one block of bytes (strong reductions), and then the lanes serve.
+bool PlanBytePairs(const int32_t* offset, size_t n, int channels, int inImage,
+                   Scratch<uint8_t>& block, ResizeSamples& out, bool& noMemory) {
+  const size_t blocks = (n + 3) / 4;
+  for (size_t b = 0; b < blocks; ++b) {
+    const size_t i0 = 4 * b, count = std::min<size_t>(4, n - i0);
+    const auto [lo, hi] = std::minmax_element(offset + i0, offset + i0 + count);
+    if (*hi + channels - *lo >= kPairBlock) return false;
+  }
+  block = AllocateScratch<uint8_t>(blocks * (sizeof(int32_t) + kPairBlock));
+  noMemory = !block;
+  if (!block) return false;
+  auto* base = reinterpret_cast<int32_t*>(block.get());
+  auto* shuffle = reinterpret_cast<uint8_t*>(base + blocks);
+  out.pairBlocks = 0;
+  for (size_t b = 0; b < blocks; ++b) {
+    const size_t i0 = 4 * b, count = std::min<size_t>(4, n - i0);
+    base[b] = *std::min_element(offset + i0, offset + i0 + count);
+    uint8_t* lanes = shuffle + b * kPairBlock;
+    std::fill(lanes, lanes + kPairBlock, uint8_t{0x80});  // 0x80 gives a zero byte
+    for (size_t k = 0; k < count; ++k) {
+      lanes[4 * k] = uint8_t(offset[i0 + k] - base[b]);
+      lanes[4 * k + 2] = uint8_t(offset[i0 + k] + channels - base[b]);
+    }
+    if (size_t(out.pairBlocks) == b && base[b] + kPairBlock <= inImage) ++out.pairBlocks;
+  }
+  out.pairBase = base;
+  out.pairShuffle = shuffle;
+  return true;
+}
+
 // Spreads the column table over the samples of a line, for vectors of
 // `lanes` lanes.
 bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels, int lanes,
-                  int origin, int imageWidth, Scratch<uint8_t>& block,
-                  ResizeSamples& out) {
+                  int origin, int imageWidth, bool bytePairs, Scratch<uint8_t>& block,
+                  Scratch<uint8_t>& pairBlock, ResizeSamples& out) {
   const int before = TapsBefore(kind);
   const size_t n = size_t(x.count) * channels;
   const auto [lo, hi] = std::minmax_element(x.index, x.index + x.count);
@@ -257,6 +293,10 @@ bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels, int lanes,
   while (first >= out.imageFirst && out.direct < out.groups &&
          out.base[out.direct] + reach <= inImage)
     ++out.direct;
+  bool noMemory = false;
+  if (bytePairs && first >= out.imageFirst &&
+      !PlanBytePairs(offset.get(), n, channels, inImage, pairBlock, out, noMemory) && noMemory)
+    return false;
   out.widenFrom = out.last + 1 - first;
   for (int g = out.direct; g < out.groups; ++g)
     out.widenFrom = std::min(out.widenFrom, out.base[g] / channels);
@@ -461,10 +501,11 @@ VokStatus ResizeCore(const ResizeRequest& q) {
   tables.x = x.axis;
   tables.y = y.axis;
   tables.samples.imageLast = q.srcSize.width - 1 - roi.x;
-  Scratch<uint8_t> samples;
+  Scratch<uint8_t> samples, pairs;
+  const bool bytePairs = tables.kind == ResizeKind::kLinear && sizeof(T) == 1;
   if (tables.kind != ResizeKind::kNearest &&
       !BuildSamples(tables.kind, tables.x, q.channels, ResizeLanes(), roi.x,
-                    q.srcSize.width, samples, tables.samples))
+                    q.srcSize.width, bytePairs, samples, pairs, tables.samples))
     return vokStatusNoMemory;
   return RunRows<T>(tables, q, origins);
 }

@@ -229,14 +229,61 @@ void WidenRow(const T* s, const ResizeSamples& x, int first, W* wide) {
   for (int k = columns - after; k < columns; ++k) edge(first + k, wide + k * S);
 }
 
+// The 16-byte blocks of one vector, each loaded from its own row offset.
+template <class D>
+HWY_INLINE hn::Vec<D> LoadBlocks(D d, const uint8_t* row, const int32_t* base) {
+  if constexpr (hn::MaxLanes(d) <= 16) {
+    return hn::LoadU(d, row + base[0]);
+  } else {
+    const hn::Half<D> dh;
+    constexpr size_t kHalfBlocks = hn::MaxLanes(dh) / 16;
+    return hn::Combine(d, LoadBlocks(dh, row, base + kHalfBlocks), LoadBlocks(dh, row, base));
+  }
+}
+
+// An 8u linear line straight from the source bytes: each block of four
+// samples shuffles its nodes into 16-bit pairs, and one multiply-add weighs
+// them. Samples of 8 bits and weights of at most 15 give exact sums; lines
+// keep six fraction bits. Blocks that would read past the image go one
+// sample at a time.
+template <int S>
+void PairedLine(const uint8_t* s, const ResizeSamples& x, size_t n, uint16_t* line) {
+  const hn::ScalableTag<uint8_t> d8;
+  const hn::Repartition<int16_t, decltype(d8)> d16;
+  const hn::Repartition<int32_t, decltype(d8)> d32;
+  const hn::Rebind<uint16_t, decltype(d32)> dl;
+  constexpr int kBlocks = hn::MaxLanes(d8) / 16;
+  const uint8_t* row = s + ptrdiff_t{x.first} * S;
+  int b = 0;
+  for (; b + kBlocks <= x.pairBlocks; b += kBlocks) {
+    const auto bytes = LoadBlocks(d8, row, x.pairBase + b);
+    const auto pairs = hn::TableLookupBytesOr0(bytes, hn::LoadU(d8, x.pairShuffle + b * 16));
+    auto unused = hn::Zero(d32);
+    const auto h = hn::ReorderWidenMulAccumulate(
+        d32, hn::BitCast(d16, pairs), hn::BitCast(d16, hn::LoadU(d32, x.fixed + 4 * b)),
+        hn::Set(d32, 1 << 7), unused);
+    hn::StoreU(hn::DemoteTo(dl, hn::ShiftRight<8>(h)), dl, line + 4 * b);
+  }
+  for (size_t i = 4 * size_t(b); i < n; ++i) {
+    const uint8_t* nodes = row + x.pairBase[i / 4];
+    const uint8_t* lanes = x.pairShuffle + i * 4;
+    const int32_t w = x.fixed[i];
+    const int32_t h = (nodes[lanes[0]] * (w & 0xFFFF) + nodes[lanes[2]] * (w >> 16) + (1 << 7)) >> 8;
+    line[i] = static_cast<uint16_t>(std::clamp<int32_t>(h, 0, 65535));
+  }
+}
+
 // One horizontal line: per group, the taps come from a window of the
 // widened row through one lane permutation, and the kernel runs on whole
 // vectors. Each group stores a whole vector, which the next group partly
 // overwrites; lines have a vector of slack for the last one.
 template <typename T, int S, ResizeKind kKind, typename L>
-void HorizontalLine(const T* s, const ResizeSamples& x, void* scratch, L* line) {
+void HorizontalLine(const T* s, const ResizeSamples& x, size_t n, void* scratch, L* line) {
   using W = WideOf<T, kKind>;
   constexpr bool kPaired = kKind == ResizeKind::kLinear && sizeof(T) == 1;
+  if constexpr (kPaired) {
+    if (x.pairShuffle != nullptr) return PairedLine<S>(s, x, n, line);
+  }
   // Float rows serve their windows in place as far as those stay in the
   // image; the rest come from a widened copy of the row's end.
   const int direct = std::is_same_v<T, W> ? x.direct : 0;
@@ -491,7 +538,7 @@ void InterpolatedRows(const ResizeTables& t, const ResizePlane& p, int y0, int y
   void* wide = static_cast<uint8_t*>(scratch) +
                ((K * t.samples.stride * sizeof(L) + 63) & ~size_t{63});
   auto fill = [&](int32_t row, L* line) {
-    HorizontalLine<T, S, kKind>(SrcRow<T>(p, row), t.samples, wide, line);
+    HorizontalLine<T, S, kKind>(SrcRow<T>(p, row), t.samples, n, wide, line);
   };
   const WriteMode mode{p.keepAlpha, n * sizeof(T) * t.y.count >= kStreamingBytes};
   for (int y = y0; y < y1; ++y) {
