@@ -71,7 +71,9 @@ HWY_INLINE void WriteRow(D d, T* out, size_t n, WriteMode mode, const Vec& vec,
     const auto alpha = AlphaLanes(d);
     for (; i + lanes <= n; i += lanes)
       hn::StoreU(hn::IfThenElse(alpha, hn::LoadU(d, out + i), vec(i)), d, out + i);
-  } else if (mode.stream) {
+  } else if (mode.stream && lanes * sizeof(T) >= 16) {
+    // Streaming stores write whole 16-byte blocks, so narrower vectors do not
+    // stream.
     const size_t bytes = lanes * sizeof(T);
     const size_t head = (bytes - reinterpret_cast<uintptr_t>(out) % bytes) % bytes;
     if (head % sizeof(T) == 0) {
