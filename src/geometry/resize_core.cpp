@@ -201,7 +201,7 @@ struct GroupWeights {
 // samples, with room for `taps` weight arrays, all zero. Null weights when
 // memory is short.
 GroupWeights PlanGroups(const int32_t* offset, size_t n, int lanes, int taps,
-                Scratch<uint8_t>& block, ResizeSamples& out) {
+                        Scratch<uint8_t>& block, ResizeSamples& out) {
   const int size = GroupSize(offset, n, lanes);
   const size_t groups = (n + size - 1) / size, stride = n + lanes;
   block = AllocateScratch<uint8_t>(sizeof(int32_t) * (groups * (1 + lanes) + stride) +
@@ -235,18 +235,17 @@ GroupWeights PlanGroups(const int32_t* offset, size_t n, int lanes, int taps,
 constexpr int kPairBlock = 16;
 
 // The byte-pair blocks of 8u linear lines over the first-node offsets of n
-// samples; false without error when some block's nodes spread over more
-// than one block of bytes (strong reductions), and then the lanes serve.
+// samples. None when some block's nodes spread over more than 16 bytes
+// (strong reductions), and then the lanes serve; false when memory is short.
 bool PlanBytePairs(const int32_t* offset, size_t n, int channels, int inImage,
-                   Scratch<uint8_t>& block, ResizeSamples& out, bool& noMemory) {
+                   Scratch<uint8_t>& block, ResizeSamples& out) {
   const size_t blocks = (n + 3) / 4;
   for (size_t b = 0; b < blocks; ++b) {
     const size_t i0 = 4 * b, count = std::min<size_t>(4, n - i0);
     const auto [lo, hi] = std::minmax_element(offset + i0, offset + i0 + count);
-    if (*hi + channels - *lo >= kPairBlock) return false;
+    if (*hi + channels - *lo >= kPairBlock) return true;
   }
   block = AllocateScratch<uint8_t>(blocks * (sizeof(int32_t) + kPairBlock));
-  noMemory = !block;
   if (!block) return false;
   auto* base = reinterpret_cast<int32_t*>(block.get());
   auto* shuffle = reinterpret_cast<uint8_t*>(base + blocks);
@@ -293,9 +292,8 @@ bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels, int lanes,
   while (first >= out.imageFirst && out.direct < out.groups &&
          out.base[out.direct] + reach <= inImage)
     ++out.direct;
-  bool noMemory = false;
   if (bytePairs && first >= out.imageFirst &&
-      !PlanBytePairs(offset.get(), n, channels, inImage, pairBlock, out, noMemory) && noMemory)
+      !PlanBytePairs(offset.get(), n, channels, inImage, pairBlock, out))
     return false;
   out.widenFrom = out.last + 1 - first;
   for (int g = out.direct; g < out.groups; ++g)
