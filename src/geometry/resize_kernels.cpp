@@ -1,8 +1,9 @@
 // Row kernels of resize, compiled once per instruction set. Horizontal passes
-// widen a source row with vectors and then walk the column tables with
-// indexed loads; vertical passes blend whole lines with vectors and take the
-// end of a row one sample at a time with the same arithmetic, so every
-// target writes the same bytes.
+// gather the nodes of a vector of line samples from one window of the row
+// with a lane permutation (8u linear: with a byte shuffle per 16 bytes);
+// vertical passes blend whole lines with vectors and take the end of a row
+// one sample at a time with the same arithmetic, so every target writes the
+// same bytes.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "geometry/resize_kernels.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
