@@ -64,13 +64,17 @@ struct ResizeSamples {
   const float* weights;       // linear 32f: fraction; cubic: m, n and 1 + t
                               // of the cubic in t; Lanczos: six tap weights;
                               // supersampling: the entries' weights
-  // 8u linear, when every four line samples find both their nodes in 16
-  // bytes of the row: per block of four, the row offset (from `first`) and
-  // the byte shuffle that puts the nodes of each sample side by side in two
-  // 16-bit lanes. The leading `pairBlocks` blocks lie wholly in the image.
-  int pairBlocks;
-  const int32_t* pairBase;
-  const uint8_t* pairShuffle;
+  // Byte shuffles from source rows, where each block finds its bytes close
+  // together: per block its row offset and shuffle. The leading
+  // `shuffleBlocks` blocks read only bytes of the image.
+  // - 8u linear: blocks of four line samples, offsets from column `first`,
+  //   16 bytes of shuffle that put each sample's nodes side by side in two
+  //   16-bit lanes;
+  // - nearest: blocks of 16 destination bytes, offsets from the ROI origin,
+  //   32 bytes of shuffle, for the 16 bytes at the offset and the 16 after.
+  int shuffleBlocks;
+  const int32_t* blockBase;
+  const uint8_t* blockShuffle;
 };
 
 struct ResizeTables {

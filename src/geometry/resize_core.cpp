@@ -249,7 +249,7 @@ bool PlanBytePairs(const int32_t* offset, size_t n, int channels, int inImage,
   if (!block) return false;
   auto* base = reinterpret_cast<int32_t*>(block.get());
   auto* shuffle = reinterpret_cast<uint8_t*>(base + blocks);
-  out.pairBlocks = 0;
+  out.shuffleBlocks = 0;
   for (size_t b = 0; b < blocks; ++b) {
     const size_t i0 = 4 * b, count = std::min<size_t>(4, n - i0);
     base[b] = *std::min_element(offset + i0, offset + i0 + count);
@@ -259,10 +259,59 @@ bool PlanBytePairs(const int32_t* offset, size_t n, int channels, int inImage,
       lanes[4 * k] = uint8_t(offset[i0 + k] - base[b]);
       lanes[4 * k + 2] = uint8_t(offset[i0 + k] + channels - base[b]);
     }
-    if (size_t(out.pairBlocks) == b && base[b] + kPairBlock <= inImage) ++out.pairBlocks;
+    if (size_t(out.shuffleBlocks) == b && base[b] + kPairBlock <= inImage) ++out.shuffleBlocks;
   }
-  out.pairBase = base;
-  out.pairShuffle = shuffle;
+  out.blockBase = base;
+  out.blockShuffle = shuffle;
+  return true;
+}
+
+// Destination bytes that one shuffle block of nearest gives, from twice as
+// many source bytes.
+constexpr int kCopyBlock = 16;
+
+// The shuffle blocks of nearest rows whose pixels are copied whole, the
+// leading ones whose windows lie in the image: their bases, then the
+// shuffles of the first windows, then those of the second. None when a
+// column lies outside the image or some block's bytes spread over more than
+// two windows (strong reductions); false when memory is short.
+bool PlanCopyBlocks(const ResizeAxis& x, int pixelBytes, int origin, int imageWidth,
+                    Scratch<uint8_t>& block, ResizeSamples& out) {
+  const auto [lo, hi] = std::minmax_element(x.index, x.index + x.count);
+  if (*lo < -origin || *hi > imageWidth - 1 - origin) return true;
+  auto source = [&](size_t k) {
+    return x.index[k / pixelBytes] * pixelBytes + int(k % pixelBytes);
+  };
+  auto firstOf = [&](size_t b) {
+    int first = source(b * kCopyBlock);
+    for (size_t k = b * kCopyBlock; k < (b + 1) * kCopyBlock; ++k) first = std::min(first, source(k));
+    return first;
+  };
+  const int imageEnd = (imageWidth - origin) * pixelBytes;
+  size_t blocks = 0;
+  for (; blocks < size_t(x.count) * pixelBytes / kCopyBlock; ++blocks) {
+    const int first = firstOf(blocks);
+    if (first + 2 * kCopyBlock > imageEnd) break;
+    for (size_t k = blocks * kCopyBlock; k < (blocks + 1) * kCopyBlock; ++k)
+      if (source(k) - first >= 2 * kCopyBlock) return true;
+  }
+  if (blocks == 0) return true;
+  block = AllocateScratch<uint8_t>(blocks * (sizeof(int32_t) + 2 * kCopyBlock));
+  if (!block) return false;
+  auto* base = reinterpret_cast<int32_t*>(block.get());
+  auto* shuffle = reinterpret_cast<uint8_t*>(base + blocks);
+  for (size_t b = 0; b < blocks; ++b) {
+    base[b] = firstOf(b);
+    for (int k = 0; k < kCopyBlock; ++k) {
+      const int at = source(b * kCopyBlock + k) - base[b];
+      // 0x80 gives a zero byte, where the other window's byte goes.
+      shuffle[b * kCopyBlock + k] = at < kCopyBlock ? uint8_t(at) : uint8_t{0x80};
+      shuffle[(blocks + b) * kCopyBlock + k] = at < kCopyBlock ? uint8_t{0x80} : uint8_t(at - kCopyBlock);
+    }
+  }
+  out.shuffleBlocks = int(blocks);
+  out.blockBase = base;
+  out.blockShuffle = shuffle;
   return true;
 }
 
@@ -500,6 +549,10 @@ VokStatus ResizeCore(const ResizeRequest& q) {
   tables.y = y.axis;
   tables.samples.imageLast = q.srcSize.width - 1 - roi.x;
   Scratch<uint8_t> samples, pairs;
+  if (tables.kind == ResizeKind::kNearest && !q.keepAlpha &&
+      !PlanCopyBlocks(tables.x, q.channels * int(sizeof(T)), roi.x, q.srcSize.width, pairs,
+                      tables.samples))
+    return vokStatusNoMemory;
   const bool bytePairs = tables.kind == ResizeKind::kLinear && sizeof(T) == 1;
   if (tables.kind != ResizeKind::kNearest &&
       !BuildSamples(tables.kind, tables.x, q.channels, ResizeLanes(), roi.x,

@@ -147,6 +147,38 @@ class LineCache {
 
 // ---- Nearest ---------------------------------------------------------------
 
+// The 16-byte blocks of one vector, each loaded from its own row offset.
+template <class D>
+HWY_INLINE hn::Vec<D> LoadBlocks(D d, const uint8_t* row, const int32_t* base) {
+  if constexpr (hn::MaxLanes(d) <= 16) {
+    return hn::LoadU(d, row + base[0]);
+  } else {
+    const hn::Half<D> dh;
+    constexpr size_t kHalfBlocks = hn::MaxLanes(dh) / 16;
+    return hn::Combine(d, LoadBlocks(dh, row, base + kHalfBlocks), LoadBlocks(dh, row, base));
+  }
+}
+
+// Copies the shuffle blocks of a nearest row, 16 destination bytes from two
+// 16-byte windows of the source each; returns the bytes written.
+template <typename T>
+size_t CopyBlocks(const T* s, const ResizeSamples& x, T* out) {
+  const hn::ScalableTag<uint8_t> d8;
+  constexpr int kBlocks = hn::MaxLanes(d8) / 16;
+  const auto* row = reinterpret_cast<const uint8_t*>(s);
+  auto* to = reinterpret_cast<uint8_t*>(out);
+  const uint8_t* second = x.blockShuffle + size_t(x.shuffleBlocks) * 16;
+  int b = 0;
+  for (; b + kBlocks <= x.shuffleBlocks; b += kBlocks) {
+    const auto lo = LoadBlocks(d8, row, x.blockBase + b);
+    const auto hi = LoadBlocks(d8, row + 16, x.blockBase + b);
+    hn::StoreU(hn::Or(hn::TableLookupBytesOr0(lo, hn::LoadU(d8, x.blockShuffle + b * 16)),
+                      hn::TableLookupBytesOr0(hi, hn::LoadU(d8, second + b * 16))),
+               d8, to + b * 16);
+  }
+  return size_t(b) * 16;
+}
+
 // kCopied samples of each S-sample pixel; AC4 copies three of four.
 template <typename T, int S, int kCopied>
 void NearestRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1) {
@@ -160,6 +192,9 @@ void NearestRows(const ResizeTables& t, const ResizePlane& p, int y0, int y1) {
     }
     const T* s = SrcRow<T>(p, t.y.index[y]);
     int j = 0;
+    if constexpr (kCopied == S) {
+      if (t.samples.blockShuffle != nullptr) j = CopyBlocks(s, t.samples, out) / int(kPixel);
+    }
     if constexpr (kCopied == S && kWide != kPixel) {
       // Pixels of 3, 6 or 12 bytes move as one word of the next power of two
       // where the source has the bytes and the next pixel overwrites them.
@@ -232,18 +267,6 @@ void WidenRow(const T* s, const ResizeSamples& x, int first, W* wide) {
   for (int k = columns - after; k < columns; ++k) edge(first + k, wide + k * S);
 }
 
-// The 16-byte blocks of one vector, each loaded from its own row offset.
-template <class D>
-HWY_INLINE hn::Vec<D> LoadBlocks(D d, const uint8_t* row, const int32_t* base) {
-  if constexpr (hn::MaxLanes(d) <= 16) {
-    return hn::LoadU(d, row + base[0]);
-  } else {
-    const hn::Half<D> dh;
-    constexpr size_t kHalfBlocks = hn::MaxLanes(dh) / 16;
-    return hn::Combine(d, LoadBlocks(dh, row, base + kHalfBlocks), LoadBlocks(dh, row, base));
-  }
-}
-
 // An 8u linear line straight from the source bytes: each block of four
 // samples shuffles its nodes into 16-bit pairs, and one multiply-add weighs
 // them. Samples of 8 bits and weights of at most 15 give exact sums; lines
@@ -258,9 +281,9 @@ void PairedLine(const uint8_t* s, const ResizeSamples& x, size_t n, uint16_t* li
   constexpr int kBlocks = hn::MaxLanes(d8) / 16;
   const uint8_t* row = s + ptrdiff_t{x.first} * S;
   int b = 0;
-  for (; b + kBlocks <= x.pairBlocks; b += kBlocks) {
-    const auto bytes = LoadBlocks(d8, row, x.pairBase + b);
-    const auto pairs = hn::TableLookupBytesOr0(bytes, hn::LoadU(d8, x.pairShuffle + b * 16));
+  for (; b + kBlocks <= x.shuffleBlocks; b += kBlocks) {
+    const auto bytes = LoadBlocks(d8, row, x.blockBase + b);
+    const auto pairs = hn::TableLookupBytesOr0(bytes, hn::LoadU(d8, x.blockShuffle + b * 16));
     auto unused = hn::Zero(d32);
     const auto h = hn::ReorderWidenMulAccumulate(
         d32, hn::BitCast(d16, pairs), hn::BitCast(d16, hn::LoadU(d32, x.fixed + 4 * b)),
@@ -268,8 +291,8 @@ void PairedLine(const uint8_t* s, const ResizeSamples& x, size_t n, uint16_t* li
     hn::StoreU(hn::DemoteTo(dl, hn::ShiftRight<8>(h)), dl, line + 4 * b);
   }
   for (size_t i = 4 * size_t(b); i < n; ++i) {
-    const uint8_t* nodes = row + x.pairBase[i / 4];
-    const uint8_t* lanes = x.pairShuffle + i * 4;
+    const uint8_t* nodes = row + x.blockBase[i / 4];
+    const uint8_t* lanes = x.blockShuffle + i * 4;
     const int32_t w = x.fixed[i];
     const int32_t h = (nodes[lanes[0]] * (w & 0xFFFF) + nodes[lanes[2]] * (w >> 16) + (1 << 7)) >> 8;
     line[i] = static_cast<uint16_t>(std::clamp<int32_t>(h, 0, 65535));
@@ -285,7 +308,7 @@ void HorizontalLine(const T* s, const ResizeSamples& x, size_t n, void* scratch,
   using W = WideOf<T, kKind>;
   constexpr bool kPaired = kKind == ResizeKind::kLinear && sizeof(T) == 1;
   if constexpr (kPaired) {
-    if (x.pairShuffle != nullptr) return PairedLine<S>(s, x, n, line);
+    if (x.blockShuffle != nullptr) return PairedLine<S>(s, x, n, line);
   }
   // Float rows serve their windows in place as far as those stay in the
   // image; the rest come from a widened copy of the row's end.
