@@ -267,28 +267,34 @@ void WidenRow(const T* s, const ResizeSamples& x, int first, W* wide) {
   for (int k = columns - after; k < columns; ++k) edge(first + k, wide + k * S);
 }
 
+// Weighs 8u linear nodes held as 16-bit pairs with one multiply-add: samples
+// of 8 bits and weights of at most 15 give exact 32-bit sums, and lines keep
+// six fraction bits.
+template <class D32, class V>
+HWY_INLINE void StoreWeighedPairs(D32 d32, V pairs, const int32_t* fixed, uint16_t* line) {
+  const hn::Repartition<int16_t, D32> d16;
+  const hn::Rebind<uint16_t, D32> dl;
+  auto unused = hn::Zero(d32);
+  const auto h = hn::ReorderWidenMulAccumulate(d32, hn::BitCast(d16, pairs),
+                                               hn::BitCast(d16, hn::LoadU(d32, fixed)),
+                                               hn::Set(d32, 1 << 7), unused);
+  hn::StoreU(hn::DemoteTo(dl, hn::ShiftRight<8>(h)), dl, line);
+}
+
 // An 8u linear line straight from the source bytes: each block of four
-// samples shuffles its nodes into 16-bit pairs, and one multiply-add weighs
-// them. Samples of 8 bits and weights of at most 15 give exact sums; lines
-// keep six fraction bits. Blocks that would read past the image go one
-// sample at a time.
+// samples shuffles its nodes into 16-bit pairs. Blocks that would read past
+// the image go one sample at a time.
 template <int S>
 void PairedLine(const uint8_t* s, const ResizeSamples& x, size_t n, uint16_t* line) {
   const hn::ScalableTag<uint8_t> d8;
-  const hn::Repartition<int16_t, decltype(d8)> d16;
   const hn::Repartition<int32_t, decltype(d8)> d32;
-  const hn::Rebind<uint16_t, decltype(d32)> dl;
   constexpr int kBlocks = hn::MaxLanes(d8) / 16;
   const uint8_t* row = s + ptrdiff_t{x.first} * S;
   int b = 0;
   for (; b + kBlocks <= x.shuffleBlocks; b += kBlocks) {
     const auto bytes = LoadBlocks(d8, row, x.blockBase + b);
-    const auto pairs = hn::TableLookupBytesOr0(bytes, hn::LoadU(d8, x.blockShuffle + b * 16));
-    auto unused = hn::Zero(d32);
-    const auto h = hn::ReorderWidenMulAccumulate(
-        d32, hn::BitCast(d16, pairs), hn::BitCast(d16, hn::LoadU(d32, x.fixed + 4 * b)),
-        hn::Set(d32, 1 << 7), unused);
-    hn::StoreU(hn::DemoteTo(dl, hn::ShiftRight<8>(h)), dl, line + 4 * b);
+    StoreWeighedPairs(d32, hn::TableLookupBytesOr0(bytes, hn::LoadU(d8, x.blockShuffle + b * 16)),
+                      x.fixed + 4 * b, line + 4 * b);
   }
   for (size_t i = 4 * size_t(b); i < n; ++i) {
     const uint8_t* nodes = row + x.blockBase[i / 4];
@@ -329,14 +335,7 @@ void HorizontalLine(const T* s, const ResizeSamples& x, size_t n, void* scratch,
     const W* window = g < direct ? row + x.base[g] : wide + (x.base[g] - from * S);
     auto tap = [&](int k) { return hn::TableLookupLanes(hn::LoadU(dw, window + k * S), idx); };
     if constexpr (kPaired) {
-      // Samples of 8 bits and weights of at most 15 give exact 32-bit sums;
-      // lines keep six fraction bits.
-      const hn::Repartition<int16_t, decltype(di)> d16;
-      auto unused = hn::Zero(di);
-      const auto h = hn::ReorderWidenMulAccumulate(
-          di, hn::BitCast(d16, tap(0)), hn::BitCast(d16, hn::LoadU(di, x.fixed + i)),
-          hn::Set(di, 1 << 7), unused);
-      hn::StoreU(hn::DemoteTo(dl, hn::ShiftRight<8>(h)), dl, line + i);
+      StoreWeighedPairs(di, tap(0), x.fixed + i, line + i);
     } else if constexpr (kKind == ResizeKind::kLinear && std::is_same_v<W, int32_t>) {
       // 16u lines keep the full range.
       const auto weights = hn::LoadU(di, x.fixed + i);
