@@ -441,8 +441,11 @@ VokStatus RunRows(const ResizeTables& tables, const ResizeRequest& request,
       ResizeRows<T>(tables, plane, y0, y1, scratch);
     }
   };
+  // Nearest only copies samples, a few per clock, and gains from a second
+  // thread only where the destination is large.
   const int64_t samples = int64_t{tables.x.count} * height * request.channels;
-  if (samples >= (1 << 16)) return SlabsWithScratchBefore(height, bytes, rows);
+  const int64_t cutOver = int64_t{1} << (tables.kind == ResizeKind::kNearest ? 22 : 16);
+  if (samples >= cutOver) return SlabsWithScratchBefore(height, bytes, rows);
   Scratch<uint8_t> scratch = AllocateScratch<uint8_t>(bytes);
   if (bytes > 0 && !scratch) return vokStatusNoMemory;
   rows(0, height, scratch.get());
