@@ -53,6 +53,8 @@ struct ResizeSamples {
   int first, last;            // widened columns, relative to the ROI origin
   int imageFirst, imageLast;  // the image's columns, relative likewise
   int lanes, groupSize, groups, taps;
+  bool wholeTaps;             // supersampling: every output sums `taps`
+                              // entries of weight 1
   int direct;                 // leading groups whose windows lie in the image
   int widenFrom;              // the first column, after `first`, that any
                               // later group reads

@@ -390,17 +390,20 @@ bool BuildSuperSamples(const SuperSpan* columns, int count, int channels, int la
   }
   float* weights = PlanGroups(offset.get(), n, lanes, taps, block, out).weights;
   if (!weights) return false;
+  out.wholeTaps = true;
   for (int j = 0; j < count; ++j) {
     const SuperSpan& span = columns[j];
     int t = 0;
     auto put = [&](float weight) {
       for (int c = 0; c < channels; ++c)
         weights[t * out.stride + size_t(j) * channels + c] = weight;
+      out.wholeTaps = out.wholeTaps && weight == 1.0f;
       ++t;
     };
     if (span.head != 0) put(span.head);
     for (int e = span.begin; e < span.end; ++e) put(1.0f);
     if (span.tail != 0) put(span.tail);
+    out.wholeTaps = out.wholeTaps && t == taps;
   }
   return true;
 }

@@ -649,15 +649,22 @@ void ColumnSums(const Acc* acc, const ResizeSamples& x, Acc* sums) {
     const size_t i = size_t(g) * x.groupSize;
     const auto idx = hn::IndicesFromVec(da, hn::LoadU(di, x.lane + g * lanes));
     const Acc* window = acc + x.base[g];
+    auto entry = [&](int k) { return hn::TableLookupLanes(hn::LoadU(da, window + k * S), idx); };
+    if (x.wholeTaps) {
+      // The first entry added to the empty sum is the entry itself.
+      auto sum = entry(0);
+      for (int k = 1; k < x.taps; ++k) sum = hn::Add(sum, entry(k));
+      hn::StoreU(sum, da, sums + i);
+      continue;
+    }
     auto sum = hn::Set(da, kEmptySum<Acc>);
     for (int k = 0; k < x.taps; ++k) {
       const auto w = hn::LoadU(df, x.weights + k * x.stride + i);
       const auto active = hn::RebindMask(da, hn::Ne(w, hn::Zero(df)));
-      const auto entry = hn::TableLookupLanes(hn::LoadU(da, window + k * S), idx);
       if constexpr (std::is_same_v<Acc, float>) {
-        sum = hn::IfThenElse(active, hn::Add(sum, hn::Mul(entry, w)), sum);
+        sum = hn::IfThenElse(active, hn::Add(sum, hn::Mul(entry(k), w)), sum);
       } else {
-        sum = hn::Add(sum, hn::IfThenElseZero(active, entry));
+        sum = hn::Add(sum, hn::IfThenElseZero(active, entry(k)));
       }
     }
     hn::StoreU(sum, da, sums + i);
