@@ -41,9 +41,10 @@ struct SuperPlan {
   double scale;           // xFactor x yFactor
 };
 
-// Horizontal passes first widen a source row's columns [first, last] to
-// 32-bit lanes, reading columns outside the image as the nearest image
-// column. Line samples then go in groups of `groupSize`, one vector each:
+// Horizontal passes read a source row's columns [first, last] as 32-bit
+// lanes: widened, with columns outside the image read as the nearest image
+// column, or for float rows in place as far as the windows stay in the
+// image. Line samples go in groups of `groupSize`, one vector each:
 // group g reads tap k of its lanes from the window of `lanes` widened samples
 // at base[g] + k x channels, lane i taking window lane lane[g x lanes + i].
 // Weights are per line sample, one array of `stride` entries per term.
