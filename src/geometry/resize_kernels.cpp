@@ -318,8 +318,12 @@ void HorizontalLine(const T* s, const ResizeSamples& x, size_t n, void* scratch,
   }
   // Float rows serve their windows in place as far as those stay in the
   // image; the rest come from a widened copy of the row's end.
-  const int direct = std::is_same_v<T, W> ? x.direct : 0;
-  const W* row = reinterpret_cast<const W*>(s) + ptrdiff_t{x.first} * S;
+  int direct = 0;
+  const W* row = nullptr;
+  if constexpr (std::is_same_v<T, W>) {
+    direct = x.direct;
+    row = s + ptrdiff_t{x.first} * S;
+  }
   const int from = direct > 0 ? x.widenFrom : 0;
   W* wide = static_cast<W*>(scratch);
   WidenRow<S, kPaired>(s, x, x.first + from, wide);
