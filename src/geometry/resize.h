@@ -35,34 +35,49 @@ struct SuperSpan {
 };
 
 struct SuperPlan {
-  const SuperSpan* columns;  // over the row accumulator
-  const SuperSpan* rows;     // over the source rows
-  int accumulated;           // pixels of each row that are accumulated
-  bool wholeSums;            // both source steps are whole numbers
-  double scale;              // xFactor x yFactor
+  const SuperSpan* rows;  // over the source rows
+  int accumulated;        // pixels of each row that are accumulated
+  bool wholeSums;         // both source steps are whole numbers
+  double scale;           // xFactor x yFactor
 };
 
-// Horizontal passes first widen a source row's pixels [first, last] to
-// 32-bit lanes. Linear and cubic then read the column table spread over the
-// samples of a line: sample i's first node is at offset[i] in the widened
-// row. Indexed loads of 32-bit lanes measured faster here than gathers.
-// The terms of the horizontal cubic that depend on the fraction t alone,
-// m = t (1 + t) / 2 and n = (t - 1) m / 3, computed once per column.
-struct CubicTerms {
-  float m, n, onePlusT;
-};
-
-inline CubicTerms HorizontalCubicTerms(float t) {
-  const float m = t * (1.0f + t) * 0.5f;
-  return CubicTerms{m, (t - 1.0f) * m / 3.0f, 1.0f + t};
-}
-
+// Horizontal passes read a source row's columns [first, last] as 32-bit
+// lanes: widened, with columns outside the image read as the nearest image
+// column, or for float rows in place as far as the windows stay in the
+// image. Line samples go in groups of `groupSize`, one vector each:
+// group g reads tap k of its lanes from the window of `lanes` widened samples
+// at base[g] + k x channels, lane i taking window lane lane[g x lanes + i].
+// Weights are per line sample, one array of `stride` entries per term.
+// Supersampling reads its row accumulator the same way, with `taps` entries
+// per output and a weight of 0 where an output has fewer.
 struct ResizeSamples {
-  int first, last;
-  const int32_t* offset;    // first node of the sample
-  const float* fraction;    // linear 32f
-  const int32_t* fixed;     // linear 8u and 16u
-  const CubicTerms* cubic;  // cubic
+  int first, last;            // widened columns, relative to the ROI origin
+  int imageFirst, imageLast;  // the image's columns, relative likewise
+  int lanes, groupSize, groups, taps;
+  bool wholeTaps;             // supersampling: every output sums `taps`
+                              // entries of weight 1
+  int direct;                 // leading groups whose windows lie in the image
+  int widenFrom;              // the first column, after `first`, that any
+                              // later group reads
+  size_t stride;              // line samples plus one vector of slack
+  const int32_t* base;
+  const int32_t* lane;
+  const int32_t* fixed;       // linear 8u and 16u: the weights of both nodes,
+                              // 16-bit each, the second in the upper half
+  const float* weights;       // linear 32f: fraction; cubic: m, n and 1 + t
+                              // of the cubic in t; Lanczos: six tap weights;
+                              // supersampling: the entries' weights
+  // Byte shuffles from source rows, where each block finds its bytes close
+  // together: per block its row offset and shuffle. The leading
+  // `shuffleBlocks` blocks read only bytes of the image.
+  // - 8u linear: blocks of four line samples, offsets from column `first`,
+  //   16 bytes of shuffle that put each sample's nodes side by side in two
+  //   16-bit lanes;
+  // - nearest: blocks of 16 destination bytes, offsets from the ROI origin,
+  //   32 bytes of shuffle, for the 16 bytes at the offset and the 16 after.
+  int shuffleBlocks;
+  const int32_t* blockBase;
+  const uint8_t* blockShuffle;
 };
 
 struct ResizeTables {
@@ -81,6 +96,9 @@ struct ResizePlane {
   int channels;    // samples per pixel in memory: 1, 3 or 4
   bool keepAlpha;  // AC4
 };
+
+// Lanes of a float vector on the instruction set that runs the kernels.
+int ResizeLanes();
 
 // Bytes of scratch that one band of rows needs.
 size_t ResizeScratchBytes(const ResizeTables& tables, int channels,

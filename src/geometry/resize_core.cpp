@@ -168,30 +168,243 @@ void BuildSpans(int count, double s, int limit, bool columns, SuperSpan* out) {
   }
 }
 
-// Spreads the linear or cubic column table over the samples of a line.
-bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels,
-                  Scratch<uint8_t>& block, ResizeSamples& out) {
-  const bool cubic = kind == ResizeKind::kCubic;
-  const int before = cubic ? 1 : 0, after = cubic ? 2 : 1;
-  const size_t n = size_t(x.count) * channels;
-  block = AllocateScratch<uint8_t>(
-      n * (2 * sizeof(int32_t) + sizeof(float) + (cubic ? sizeof(CubicTerms) : 0)));
-  if (!block) return false;
-  auto* offset = reinterpret_cast<int32_t*>(block.get());
-  auto* fixed = offset + n;
-  auto* fraction = reinterpret_cast<float*>(fixed + n);
-  auto* terms = reinterpret_cast<CubicTerms*>(fraction + n);
-  const auto [lo, hi] = std::minmax_element(x.index, x.index + x.count);
-  out = ResizeSamples{*lo - before, *hi + after, offset, fraction, fixed,
-                      cubic ? terms : nullptr};
-  for (int j = 0; j < x.count; ++j)
-    for (int c = 0; c < channels; ++c) {
-      const size_t i = size_t(j) * channels + c;
-      offset[i] = (x.index[j] - before - out.first) * channels + c;
-      fixed[i] = x.fixed[j];
-      fraction[i] = x.fraction[j];
-      if (cubic) terms[i] = HorizontalCubicTerms(x.fraction[j]);
+// Taps of each horizontal kernel and how many of them lie left of the node
+// that the column table names.
+int TapsOf(ResizeKind kind) {
+  return kind == ResizeKind::kLinear ? 2 : kind == ResizeKind::kCubic ? 4 : 6;
+}
+int TapsBefore(ResizeKind kind) {
+  return kind == ResizeKind::kCubic ? 1 : kind == ResizeKind::kLanczos ? 2 : 0;
+}
+
+// The largest group of consecutive line samples, at most one vector, whose
+// first taps all fall within one window of `lanes` samples.
+int GroupSize(const int32_t* offset, size_t n, int lanes) {
+  for (int size = lanes; size > 1; --size) {
+    bool fits = true;
+    for (size_t g = 0; g < n && fits; g += size) {
+      const auto [lo, hi] = std::minmax_element(offset + g, offset + std::min(n, g + size));
+      fits = *hi - *lo < lanes;
     }
+    if (fits) return size;
+  }
+  return 1;
+}
+
+// The weights of a plan, writable while the tables are built.
+struct GroupWeights {
+  int32_t* fixed;
+  float* weights;
+};
+
+// Window bases and lanes of the groups over the first-tap offsets of n line
+// samples, with room for `taps` weight arrays, all zero. Null weights when
+// memory is short.
+GroupWeights PlanGroups(const int32_t* offset, size_t n, int lanes, int taps,
+                        Scratch<uint8_t>& block, ResizeSamples& out) {
+  const int size = GroupSize(offset, n, lanes);
+  const size_t groups = (n + size - 1) / size, stride = n + lanes;
+  block = AllocateScratch<uint8_t>(sizeof(int32_t) * (groups * (1 + lanes) + stride) +
+                                   sizeof(float) * taps * stride);
+  if (!block) return {nullptr, nullptr};
+  auto* base = reinterpret_cast<int32_t*>(block.get());
+  auto* lane = base + groups;
+  auto* fixed = lane + groups * lanes;
+  auto* weights = reinterpret_cast<float*>(fixed + stride);
+  std::fill(fixed, fixed + stride, 0);
+  std::fill(weights, weights + taps * stride, 0.0f);
+  for (size_t g = 0; g < groups; ++g) {
+    const size_t i0 = g * size, count = std::min<size_t>(size, n - i0);
+    base[g] = *std::min_element(offset + i0, offset + i0 + count);
+    for (int l = 0; l < lanes; ++l)
+      lane[g * lanes + l] = size_t(l) < count ? offset[i0 + l] - base[g] : 0;
+  }
+  out.lanes = lanes;
+  out.groupSize = size;
+  out.groups = int(groups);
+  out.taps = taps;
+  out.stride = stride;
+  out.base = base;
+  out.lane = lane;
+  out.fixed = fixed;
+  out.weights = weights;
+  return {fixed, weights};
+}
+
+// Bytes of one block of byte pairs: four samples, two 16-bit nodes each.
+constexpr int kPairBlock = 16;
+
+// The byte-pair blocks of 8u linear lines over the first-node offsets of n
+// samples. None when some block's nodes spread over more than 16 bytes
+// (strong reductions), and then the lanes serve; false when memory is short.
+bool PlanBytePairs(const int32_t* offset, size_t n, int channels, int inImage,
+                   Scratch<uint8_t>& block, ResizeSamples& out) {
+  const size_t blocks = (n + 3) / 4;
+  for (size_t b = 0; b < blocks; ++b) {
+    const size_t i0 = 4 * b, count = std::min<size_t>(4, n - i0);
+    const auto [lo, hi] = std::minmax_element(offset + i0, offset + i0 + count);
+    if (*hi + channels - *lo >= kPairBlock) return true;
+  }
+  block = AllocateScratch<uint8_t>(blocks * (sizeof(int32_t) + kPairBlock));
+  if (!block) return false;
+  auto* base = reinterpret_cast<int32_t*>(block.get());
+  auto* shuffle = reinterpret_cast<uint8_t*>(base + blocks);
+  out.shuffleBlocks = 0;
+  for (size_t b = 0; b < blocks; ++b) {
+    const size_t i0 = 4 * b, count = std::min<size_t>(4, n - i0);
+    base[b] = *std::min_element(offset + i0, offset + i0 + count);
+    uint8_t* lanes = shuffle + b * kPairBlock;
+    std::fill(lanes, lanes + kPairBlock, uint8_t{0x80});  // 0x80 gives a zero byte
+    for (size_t k = 0; k < count; ++k) {
+      lanes[4 * k] = uint8_t(offset[i0 + k] - base[b]);
+      lanes[4 * k + 2] = uint8_t(offset[i0 + k] + channels - base[b]);
+    }
+    if (size_t(out.shuffleBlocks) == b && base[b] + kPairBlock <= inImage) ++out.shuffleBlocks;
+  }
+  out.blockBase = base;
+  out.blockShuffle = shuffle;
+  return true;
+}
+
+// Destination bytes that one shuffle block of nearest gives, from twice as
+// many source bytes.
+constexpr int kCopyBlock = 16;
+
+// The shuffle blocks of nearest rows whose pixels are copied whole, the
+// leading ones whose windows lie in the image: their bases, then the
+// shuffles of the first windows, then those of the second. None when a
+// column lies outside the image or some block's bytes spread over more than
+// two windows (strong reductions); false when memory is short.
+bool PlanCopyBlocks(const ResizeAxis& x, int pixelBytes, int origin, int imageWidth,
+                    Scratch<uint8_t>& block, ResizeSamples& out) {
+  const auto [lo, hi] = std::minmax_element(x.index, x.index + x.count);
+  if (*lo < -origin || *hi > imageWidth - 1 - origin) return true;
+  auto source = [&](size_t k) {
+    return x.index[k / pixelBytes] * pixelBytes + int(k % pixelBytes);
+  };
+  auto firstOf = [&](size_t b) {
+    int first = source(b * kCopyBlock);
+    for (size_t k = b * kCopyBlock; k < (b + 1) * kCopyBlock; ++k) first = std::min(first, source(k));
+    return first;
+  };
+  const int imageEnd = (imageWidth - origin) * pixelBytes;
+  size_t blocks = 0;
+  for (; blocks < size_t(x.count) * pixelBytes / kCopyBlock; ++blocks) {
+    const int first = firstOf(blocks);
+    if (first + 2 * kCopyBlock > imageEnd) break;
+    for (size_t k = blocks * kCopyBlock; k < (blocks + 1) * kCopyBlock; ++k)
+      if (source(k) - first >= 2 * kCopyBlock) return true;
+  }
+  if (blocks == 0) return true;
+  block = AllocateScratch<uint8_t>(blocks * (sizeof(int32_t) + 2 * kCopyBlock));
+  if (!block) return false;
+  auto* base = reinterpret_cast<int32_t*>(block.get());
+  auto* shuffle = reinterpret_cast<uint8_t*>(base + blocks);
+  for (size_t b = 0; b < blocks; ++b) {
+    base[b] = firstOf(b);
+    for (int k = 0; k < kCopyBlock; ++k) {
+      const int at = source(b * kCopyBlock + k) - base[b];
+      // 0x80 gives a zero byte, where the other window's byte goes.
+      shuffle[b * kCopyBlock + k] = at < kCopyBlock ? uint8_t(at) : uint8_t{0x80};
+      shuffle[(blocks + b) * kCopyBlock + k] = at < kCopyBlock ? uint8_t{0x80} : uint8_t(at - kCopyBlock);
+    }
+  }
+  out.shuffleBlocks = int(blocks);
+  out.blockBase = base;
+  out.blockShuffle = shuffle;
+  return true;
+}
+
+// Spreads the column table over the samples of a line, for vectors of
+// `lanes` lanes.
+bool BuildSamples(ResizeKind kind, const ResizeAxis& x, int channels, int lanes,
+                  int origin, int imageWidth, bool bytePairs, Scratch<uint8_t>& block,
+                  Scratch<uint8_t>& pairBlock, ResizeSamples& out) {
+  const int before = TapsBefore(kind);
+  const size_t n = size_t(x.count) * channels;
+  const auto [lo, hi] = std::minmax_element(x.index, x.index + x.count);
+  const int first = *lo - before;
+  Scratch<int32_t> offset = AllocateScratch<int32_t>(n);
+  if (!offset) return false;
+  for (size_t i = 0; i < n; ++i)
+    offset[i] = (x.index[i / channels] - before - first) * channels + int(i % channels);
+  const int terms = kind == ResizeKind::kLinear ? 1 : kind == ResizeKind::kCubic ? 3 : 6;
+  const auto [fixed, weights] = PlanGroups(offset.get(), n, lanes, terms, block, out);
+  if (!weights) return false;
+  out.first = first;
+  out.last = *hi - before + TapsOf(kind) - 1;
+  out.imageFirst = -origin;
+  out.imageLast = imageWidth - 1 - origin;
+  const int reach = (TapsOf(kind) - 1) * channels + lanes;
+  const int inImage = (out.imageLast - first + 1) * channels;
+  out.direct = 0;
+  while (first >= out.imageFirst && out.direct < out.groups &&
+         out.base[out.direct] + reach <= inImage)
+    ++out.direct;
+  if (bytePairs && first >= out.imageFirst &&
+      !PlanBytePairs(offset.get(), n, channels, inImage, pairBlock, out))
+    return false;
+  out.widenFrom = out.last + 1 - first;
+  for (int g = out.direct; g < out.groups; ++g)
+    out.widenFrom = std::min(out.widenFrom, out.base[g] / channels);
+  const size_t stride = out.stride;
+  for (size_t i = 0; i < n; ++i) {
+    const size_t j = i / channels;
+    const float t = x.fraction[j];
+    switch (kind) {
+      case ResizeKind::kLinear:
+        fixed[i] = int32_t((uint32_t(x.fixed[j]) << 16) |
+                           (uint32_t(kLinearOne - x.fixed[j]) & 0xFFFF));
+        weights[i] = t;
+        break;
+      case ResizeKind::kCubic: {
+        // The terms of the cubic that depend on t alone.
+        const float m = t * (1.0f + t) * 0.5f;
+        weights[i] = m;
+        weights[stride + i] = (t - 1.0f) * m / 3.0f;
+        weights[2 * stride + i] = 1.0f + t;
+        break;
+      }
+      default:
+        for (int k = 0; k < 6; ++k) weights[k * stride + i] = x.weights[6 * j + k];
+        break;
+    }
+  }
+  return true;
+}
+
+// Spreads the column spans of supersampling over the samples of a line:
+// each output reads consecutive accumulator entries, the first and last
+// perhaps weighted, the others whole (weight 1, which multiplies exactly).
+bool BuildSuperSamples(const SuperSpan* columns, int count, int channels, int lanes,
+                       Scratch<uint8_t>& block, ResizeSamples& out) {
+  const size_t n = size_t(count) * channels;
+  Scratch<int32_t> offset = AllocateScratch<int32_t>(n);
+  if (!offset) return false;
+  int taps = 1;
+  for (int j = 0; j < count; ++j) {
+    const SuperSpan& span = columns[j];
+    const int first = span.head != 0 ? span.begin - 1 : span.begin;
+    taps = std::max(taps, span.end - first + (span.tail != 0 ? 1 : 0));
+    for (int c = 0; c < channels; ++c) offset[size_t(j) * channels + c] = first * channels + c;
+  }
+  float* weights = PlanGroups(offset.get(), n, lanes, taps, block, out).weights;
+  if (!weights) return false;
+  out.wholeTaps = true;
+  for (int j = 0; j < count; ++j) {
+    const SuperSpan& span = columns[j];
+    int t = 0;
+    auto put = [&](float weight) {
+      for (int c = 0; c < channels; ++c)
+        weights[t * out.stride + size_t(j) * channels + c] = weight;
+      out.wholeTaps = out.wholeTaps && weight == 1.0f;
+      ++t;
+    };
+    if (span.head != 0) put(span.head);
+    for (int e = span.begin; e < span.end; ++e) put(1.0f);
+    if (span.tail != 0) put(span.tail);
+    out.wholeTaps = out.wholeTaps && t == taps;
+  }
   return true;
 }
 
@@ -231,8 +444,11 @@ VokStatus RunRows(const ResizeTables& tables, const ResizeRequest& request,
       ResizeRows<T>(tables, plane, y0, y1, scratch);
     }
   };
+  // Nearest only copies samples, a few per clock, and gains from a second
+  // thread only where the destination is large.
   const int64_t samples = int64_t{tables.x.count} * height * request.channels;
-  if (samples >= (1 << 16)) return SlabsWithScratchBefore(height, bytes, rows);
+  const int64_t cutOver = int64_t{1} << (tables.kind == ResizeKind::kNearest ? 22 : 16);
+  if (samples >= cutOver) return SlabsWithScratchBefore(height, bytes, rows);
   Scratch<uint8_t> scratch = AllocateScratch<uint8_t>(bytes);
   if (bytes > 0 && !scratch) return vokStatusNoMemory;
   rows(0, height, scratch.get());
@@ -249,19 +465,24 @@ double ResizeStep(int interpolation, int roiLength, double factor) {
 
 size_t ResizeScratchBytes(const ResizeTables& tables, int channels,
                           size_t sampleSize) {
-  const size_t line = size_t(tables.x.count) * channels;
-  // Lines, then one source row widened to 32 bits at a 64-byte boundary.
-  const size_t widened =
-      size_t(tables.samples.last - tables.samples.first + 1) * channels * 4;
-  auto withRow = [&](size_t lines) { return ((lines + 63) & ~size_t{63}) + widened; };
+  const ResizeSamples& x = tables.samples;
+  // Lines, then one source row widened to 32 bits at a 64-byte boundary;
+  // both have a vector of slack for the last group's whole-vector access.
+  const size_t widened = (size_t(x.last - x.first + 1) * channels + x.lanes) * 4;
+  auto withRow = [&](size_t lines, size_t lineSample) {
+    return ((lines * x.stride * lineSample + 63) & ~size_t{63}) + widened;
+  };
   switch (tables.kind) {
     case ResizeKind::kNearest: return 0;
     case ResizeKind::kLinear:
-      return withRow(2 * line * (sampleSize == 4 ? sizeof(float) : sizeof(uint16_t)));
-    case ResizeKind::kCubic: return withRow(4 * line * sizeof(float));
-    case ResizeKind::kLanczos: return withRow(6 * line * sizeof(float));
+      return withRow(2, sampleSize == 4 ? sizeof(float) : sizeof(uint16_t));
+    case ResizeKind::kCubic: return withRow(4, sizeof(float));
+    case ResizeKind::kLanczos: return withRow(6, sizeof(float));
     case ResizeKind::kSuper:
-      return size_t(tables.super.accumulated) * channels * sizeof(float);
+      // The accumulator with slack for the windows of its last group, then
+      // the column sums of one row.
+      return (size_t(tables.super.accumulated) * channels + x.taps * channels + x.lanes) * 4 +
+             x.stride * 4;
   }
   return 0;
 }
@@ -311,8 +532,11 @@ VokStatus ResizeCore(const ResizeRequest& q) {
     if (!spans) return vokStatusNoMemory;
     BuildSpans(ax.count, sx, tables.super.accumulated, true, spans.get());
     BuildSpans(ay.count, sy, roiH, false, spans.get() + ax.count);
-    tables.super.columns = spans.get();
     tables.super.rows = spans.get() + ax.count;
+    Scratch<uint8_t> samples;
+    if (!BuildSuperSamples(spans.get(), ax.count, q.channels, ResizeLanes(), samples,
+                           tables.samples))
+      return vokStatusNoMemory;
     return RunRows<T>(tables, q, origins);
   }
 
@@ -329,15 +553,17 @@ VokStatus ResizeCore(const ResizeRequest& q) {
     return vokStatusNoMemory;
   tables.x = x.axis;
   tables.y = y.axis;
-  Scratch<uint8_t> samples;
-  if (tables.kind == ResizeKind::kLanczos) {
-    const auto [lo, hi] = std::minmax_element(x.axis.taps, x.axis.taps + 6 * x.axis.count);
-    tables.samples.first = *lo;
-    tables.samples.last = *hi;
-  } else if (tables.kind != ResizeKind::kNearest &&
-             !BuildSamples(tables.kind, tables.x, q.channels, samples, tables.samples)) {
+  tables.samples.imageLast = q.srcSize.width - 1 - roi.x;
+  Scratch<uint8_t> samples, pairs;
+  if (tables.kind == ResizeKind::kNearest && !q.keepAlpha &&
+      !PlanCopyBlocks(tables.x, q.channels * int(sizeof(T)), roi.x, q.srcSize.width, pairs,
+                      tables.samples))
     return vokStatusNoMemory;
-  }
+  const bool bytePairs = tables.kind == ResizeKind::kLinear && sizeof(T) == 1;
+  if (tables.kind != ResizeKind::kNearest &&
+      !BuildSamples(tables.kind, tables.x, q.channels, ResizeLanes(), roi.x,
+                    q.srcSize.width, bytePairs, samples, pairs, tables.samples))
+    return vokStatusNoMemory;
   return RunRows<T>(tables, q, origins);
 }
 

@@ -392,10 +392,15 @@ void CompareAll() {
         Compare(form, kShift, {40, 30}, {3, 2, 30, 25}, {50, 40}, 0.55, 0.7, 0.25, 0.5, kind, rng);
         Compare(form, kShift, {40, 30}, {3, 2, 30, 25}, {13, 11}, 2.2, 1.9, 1.5, 0, kind, rng);
         Compare(form, kCenter, {40, 30}, {0, 0, 40, 30}, {50, 44}, 1.3, 1.6, 20.2, 15.7, kind, rng);
+        // Strong reductions: few samples share a vector's window, and 8u
+        // linear nodes no longer fit a 16-byte block.
+        Compare(form, kResize, {130, 40}, {2, 1, 127, 38}, {26, 8}, 0.2, 0.21, 0, 0, kind, rng);
       }
       Compare(form, kResize, {40, 30}, {3, 2, 31, 25}, {20, 14}, 0.5, 0.25, 0, 0, kSuper, rng);
       Compare(form, kResize, {40, 30}, {3, 2, 37, 28}, {40, 30}, 0.37, 0.62, 0, 0, kSuper, rng);
       Compare(form, kCenter, {40, 30}, {0, 0, 40, 30}, {30, 20}, 0.4, 0.6, 20, 15, kSuper, rng);
+      // More source rows per output than one accumulating pass takes.
+      Compare(form, kResize, {90, 60}, {1, 0, 89, 60}, {12, 8}, 0.13, 0.11, 0, 0, kSuper, rng);
     }
   });
 }
@@ -429,6 +434,30 @@ TEST(Resize, ThreadsDoNotChangeResults) {
                           {520, 350}, f, f, 0, 0, kind), vokStatusOk);
     EXPECT_EQ(images.dst[0].firstDifference(single[0]), "") << kind;
   }
+}
+
+// Destinations of 8 MB and more are written past the cache, starting with
+// single samples up to the first vector boundary.
+TEST(Resize, LargeDestinationsMatchModel) {
+  std::mt19937 rng(11);
+  Image<Vok8u> src(700, 400, 3);
+  src.randomize(rng);
+  const std::vector<Image<Vok8u>> planes{src};
+  vok_test::ForEachTarget([&](const char*) {
+  for (int kind : {kLinear, kCubic}) {
+    std::vector<Image<Vok8u>> dst{Image<Vok8u>(2000, 1400, 3, 0, 1)};
+    dst[0].fill(0);
+    std::vector<Image<Vok8u>> want = dst;
+    ASSERT_EQ(vokiResize_8u_C3R(src.data(), src.size(), src.step(), {0, 0, 700, 400},
+                                dst[0].data(), dst[0].step(), dst[0].size(), 2000 / 700.0,
+                                1400 / 400.0, kind),
+              vokStatusOk);
+    Model(Source<Vok8u>{&planes, false}, src.size(), {0, 0, 700, 400}, kind,
+          {false, 2000 / 700.0, 0}, {false, 1400 / 400.0, 0}, dst[0].size(), false, want);
+    EXPECT_EQ(dst[0].firstDifference(want[0]), "") << kind;
+    EXPECT_TRUE(dst[0].guardsIntact());
+  }
+  });
 }
 
 // Calls vokiResize_32f_C1R on a one-row-repeated image and returns row 0.
