@@ -74,8 +74,11 @@ HWY_INLINE void ApplyPartial(const Rule& rule, const TA* a, const TB* b,
 // partial first group reaches.
 template <bool kKeepAlpha, bool kStream, class Rule, typename TA, typename TB,
           typename TO>
-HWY_INLINE void ApplyRowImpl(const Rule& rule, const TA* a, const TB* b,
+HWY_INLINE void ApplyRowImpl(const Rule& shared, const TA* a, const TB* b,
                              TO* out, size_t n) {
+  // A copy of its own, which byte stores cannot alias: the rule's constants
+  // then stay in registers for the whole row.
+  const Rule rule = shared;
   const auto d = rule.d;
   const size_t lanes = hn::Lanes(d);
   size_t i = 0;
