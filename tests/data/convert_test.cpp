@@ -168,7 +168,9 @@ const std::vector<Extra> kRoundings = {{vokRoundNear}, {vokRoundZero}, {7}};
 const std::vector<Extra> kRanges = {{vokRoundNear, 0, 1},
                                     {vokRoundNear, -100, 300},
                                     {vokRoundNear, 10, 10.5f},
-                                    {vokRoundNear, -1e6f, 3.25f}};
+                                    {vokRoundNear, -1e6f, 3.25f},
+                                    {vokRoundNear, 3e6f, 3e6f + 0.75f},
+                                    {vokRoundNear, -3e38f, 3e38f}};
 const std::vector<Extra> kHints = {{vokRoundNear, 0, 1, vokHintNone},
                                    {vokRoundNear, 0, 1, vokHintFast},
                                    {vokRoundNear, 0, 1, vokHintAccurate}};
@@ -260,6 +262,12 @@ TEST(ScaleValues, EndsOfTheRanges) {
   EXPECT_EQ(out[0], 128);  // 127.5 goes to the even 128
   EXPECT_EQ(out[1], 255);
   EXPECT_EQ(out[2], 255);
+  // A range so narrow that 255 / range overflows: inf * 0 makes every
+  // result NaN, which the rounding gives as 0.
+  ASSERT_EQ(vokiScale_32f8u_C1R(floats, 12, out, 3, VokiSize{3, 1}, 0, 3e-38f), vokStatusOk);
+  EXPECT_EQ(out[0], 0);
+  EXPECT_EQ(out[1], 0);
+  EXPECT_EQ(out[2], 0);
 }
 
 // The caller's rounding mode neither leaks into the results nor changes.
