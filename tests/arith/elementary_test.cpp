@@ -341,6 +341,28 @@ TEST(ElementaryExhaustive, LnAndExp) {
   EverySample<Vok8u>(Op::kExp, exp8u, {-100, 40, 300, 368, 369});
 }
 
+// Every pair of 8u samples, at every scale up to the fixed results: the
+// kernels may divide in float or double, and no quotient may tell.
+TEST(ElementaryExhaustive, Div8uEveryPair) {
+  std::vector<Vok8u> divisor(65536), dividend(65536), dst(65536);
+  for (size_t i = 0; i < divisor.size(); ++i) {
+    divisor[i] = static_cast<Vok8u>(i);
+    dividend[i] = static_cast<Vok8u>(i >> 8);
+  }
+  vok_test::ForEachTarget([&](const char*) {
+    for (int scale : Range(-16, 9)) {
+      SCOPED_TRACE(scale);
+      ASSERT_EQ(voksDiv_8u_Sfs(divisor.data(), dividend.data(), dst.data(), 65536, scale),
+                vokWarnDivideByZero);
+      VokStatus warning = vokStatusOk;
+      size_t wrong = 0;
+      for (size_t i = 0; i < dst.size(); ++i)
+        wrong += dst[i] != DivModel<Vok8u>(divisor[i], dividend[i], scale, warning);
+      EXPECT_EQ(wrong, 0u);
+    }
+  });
+}
+
 // Units in the last place between f and the double-precision reference,
 // at most, over samples where the reference is a normal float.
 template <class F, class Ref>
