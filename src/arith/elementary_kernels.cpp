@@ -346,24 +346,36 @@ struct ScaledProductRule {
 
 // ---- Row loops -----------------------------------------------------------
 
-// Applies `rule` to n samples. The last partial group goes through padded
-// stack copies, so nothing outside the row is read or written.
+// Applies `rule` to the first `count` samples, fewer than a vector, through
+// padded stack copies, so nothing outside them is read or written.
 template <typename T, class Rule>
-HWY_INLINE void RunRow(const Rule& rule, const T* a, const T* b, T* out,
-                       size_t n, VokStatus& warning) {
-  const size_t lanes = hn::Lanes(rule.d);
-  size_t i = 0;
-  for (; i + lanes <= n; i += lanes)
-    hn::StoreU(rule(a + i, b + i, lanes, warning), rule.d, out + i);
-  if (i == n) return;
-  const size_t rest = n - i;
+HWY_INLINE void RunPartial(const Rule& rule, const T* a, const T* b, T* out,
+                           size_t count, VokStatus& warning) {
+  if (count == 0) return;
   HWY_ALIGN T partA[HWY_MAX_BYTES / sizeof(T)] = {};
   HWY_ALIGN T partB[HWY_MAX_BYTES / sizeof(T)] = {};
   HWY_ALIGN T partOut[HWY_MAX_BYTES / sizeof(T)];
-  std::memcpy(partA, a + i, rest * sizeof(T));
-  std::memcpy(partB, b + i, rest * sizeof(T));
-  hn::Store(rule(partA, partB, rest, warning), rule.d, partOut);
-  std::memcpy(out + i, partOut, rest * sizeof(T));
+  std::memcpy(partA, a, count * sizeof(T));
+  std::memcpy(partB, b, count * sizeof(T));
+  hn::Store(rule(partA, partB, count, warning), rule.d, partOut);
+  std::memcpy(out, partOut, count * sizeof(T));
+}
+
+// Applies `rule` to n samples, left to right, streaming the stores when
+// `stream` is set and the destination allows it.
+template <typename T, class Rule>
+HWY_INLINE void RunRow(const Rule& rule, const T* a, const T* b, T* out,
+                       size_t n, bool stream, VokStatus& warning) {
+  const size_t lanes = hn::Lanes(rule.d);
+  size_t i = 0;
+  if (stream && StreamingHead(out, lanes, n, i)) {
+    RunPartial(rule, a, b, out, i, warning);
+    for (; i + lanes <= n; i += lanes)
+      hn::Stream(rule(a + i, b + i, lanes, warning), rule.d, out + i);
+  }
+  for (; i + lanes <= n; i += lanes)
+    hn::StoreU(rule(a + i, b + i, lanes, warning), rule.d, out + i);
+  RunPartial(rule, a + i, b + i, out + i, n - i, warning);
 }
 
 // The AC4 copy of one row: the first three samples of every four.
@@ -381,12 +393,15 @@ VokStatus RunRows(const ElementaryJob& job, const Rule& rule) {
   VokStatus warning = vokStatusOk;
   const size_t n = job.rowSamples;
   T* scratch = static_cast<T*>(job.alphaRow);
+  const size_t images = job.b != nullptr ? 3 : 2;
+  const bool stream = scratch == nullptr &&
+                      n * sizeof(T) * images * job.height >= kStreamingBytes;
   for (int y = 0; y < job.height; ++y) {
     const T* a = RowAt(static_cast<const T*>(job.a), job.aStep, y);
     const T* b = job.b ? RowAt(static_cast<const T*>(job.b), job.bStep, y) : a;
     T* dst = RowAt(static_cast<T*>(job.dst), job.dstStep, y);
     if (scratch == nullptr) {
-      RunRow(rule, a, b, dst, n, warning);
+      RunRow(rule, a, b, dst, n, stream, warning);
       continue;
     }
     if (job.op == ElementaryOp::kDiv) {
@@ -395,9 +410,10 @@ VokStatus RunRows(const ElementaryJob& job, const Rule& rule) {
       CopyKeepingAlpha(a, scratch, n);
       a = scratch;
     }
-    RunRow(rule, a, b, scratch, n, warning);
+    RunRow(rule, a, b, scratch, n, false, warning);
     CopyKeepingAlpha(scratch, dst, n);
   }
+  if (stream) hwy::FlushStream();
   return warning;
 }
 
