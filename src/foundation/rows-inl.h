@@ -149,19 +149,15 @@ HWY_NOINLINE void ApplyRows(const ElementRows& rows, int y0, int y1,
     const auto packed = [&](ptrdiff_t step, size_t sampleSize) {
       return step == static_cast<ptrdiff_t>(n * sampleSize);
     };
-    if (packed(rows.aStep, sizeof(T)) && packed(rows.bStep, sizeof(T)) &&
-        packed(rows.dstStep, sizeof(TO))) {
-      ApplyRow(rule, RowAt(static_cast<const T*>(rows.a), rows.aStep, y0),
-               RowAt(static_cast<const T*>(rows.b), rows.bStep, y0),
-               RowAt(static_cast<TO*>(rows.dst), rows.dstStep, y0),
-               n * static_cast<size_t>(y1 - y0), keepAlpha, stream);
-      hwy::FlushStream();
-      return;
-    }
-    for (int y = y0; y < y1; ++y) {
+    const bool oneRun = packed(rows.aStep, sizeof(T)) &&
+                        packed(rows.bStep, sizeof(T)) &&
+                        packed(rows.dstStep, sizeof(TO));
+    const int yEnd = oneRun ? y0 + 1 : y1;
+    const size_t runSamples = oneRun ? n * static_cast<size_t>(y1 - y0) : n;
+    for (int y = y0; y < yEnd; ++y) {
       ApplyRow(rule, RowAt(static_cast<const T*>(rows.a), rows.aStep, y),
                RowAt(static_cast<const T*>(rows.b), rows.bStep, y),
-               RowAt(static_cast<TO*>(rows.dst), rows.dstStep, y), n,
+               RowAt(static_cast<TO*>(rows.dst), rows.dstStep, y), runSamples,
                keepAlpha, stream);
     }
     hwy::FlushStream();
