@@ -107,6 +107,35 @@ struct WideRule {
   }
 };
 
+// 16s products at scale factors 1 to 15, kept in 16-bit lanes as the high
+// and low halves of the exact 32-bit product x. q = x >> s is rebuilt from
+// both halves; it is the true quotient when x >> (s + 15), taken from the
+// high half alone, is 0 or -1, and otherwise x saturates by its sign. Ties
+// go to even: q rounds up when the remainder passes the half, or meets it
+// while q is odd.
+struct ProductHalvesRule {
+  hn::ScalableTag<int16_t> d;
+  int shift;
+  HWY_INLINE auto operator()(const int16_t* a, const int16_t* b) const {
+    const hn::RebindToUnsigned<decltype(d)> du;
+    const auto va = hn::LoadU(d, a), vb = hn::LoadU(d, b);
+    const auto hi = hn::MulHigh(va, vb);
+    const auto lo = hn::BitCast(du, hn::Mul(va, vb));
+    const auto q = hn::Or(hn::ShiftLeftSame(hi, 16 - shift),
+                          hn::BitCast(d, hn::ShiftRightSame(lo, shift)));
+    const auto r = hn::BitCast(
+        d, hn::And(lo, hn::Set(du, static_cast<uint16_t>((1 << shift) - 1))));
+    const auto halfLessOdd =
+        hn::Sub(hn::Set(d, static_cast<int16_t>(1 << (shift - 1))),
+                hn::And(q, hn::Set(d, int16_t{1})));
+    const auto up = hn::VecFromMask(d, hn::Gt(r, halfLessOdd));
+    const auto beyond = hn::ShiftRightSame(hi, shift - 1);
+    const auto fits = hn::Eq(beyond, hn::ShiftRight<15>(q));
+    const auto bound = hn::Xor(hn::ShiftRight<15>(beyond), hn::Set(d, int16_t{0x7FFF}));
+    return hn::IfThenElse(fits, hn::SaturatedSub(q, up), bound);
+  }
+};
+
 // Scale factor 0 of add and subtract: the instruction set's own saturation.
 template <typename T, class Op>
 struct SaturatedRule {
@@ -163,6 +192,11 @@ void RunScaled(const ArithJob& job, int y0, int y1) {
       ApplyRows<T, T>(job.rows, y0, y1, SaturatedRule<T, Op>{});
     }
   } else if (s > 0) {
+    if constexpr (std::is_same_v<T, int16_t> && std::is_same_v<Op, Mul>) {
+      if (s <= 15) {
+        return ApplyRows<T, T>(job.rows, y0, y1, ProductHalvesRule{{}, s});
+      }
+    }
     RunWide<T, Op>(job, y0, y1, RoundingShift<decltype(dw)>{dw, s});
   } else if (s > LimitsOf<T>(job.op).boundAtOrBelow) {
     RunWide<T, Op>(job, y0, y1,

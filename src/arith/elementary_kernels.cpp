@@ -238,56 +238,93 @@ struct FloatDivRule {
   }
 };
 
-// Integer quotients (a aScale) / (b bScale) in float for non-zero divisors.
-// A sample times a power of two is exact, so only the division rounds.
+// Integer quotients (a << aShift) / (b << bShift) in float for non-zero
+// divisors. Both shifted samples are exact in a float, so only the division
+// rounds. The quotient, within 2^21 of zero, is rounded to nearest even and
+// read from the pattern of its sum with 1.5 * 2^23, which is exact.
 struct FloatQuotient {
-  using DW = hn::ScalableTag<int32_t>;
-  float aScale, bScale;
+  int aShift, bShift;
   template <class V>
   HWY_INLINE V operator()(V a, V b) const {
-    const DW dw;
-    const hn::Rebind<float, DW> df;
-    const auto q = hn::Div(hn::Mul(hn::ConvertTo(df, a), hn::Set(df, aScale)),
-                           hn::Mul(hn::ConvertTo(df, b), hn::Set(df, bScale)));
-    return hn::ConvertTo(dw, hn::Round(q));
+    const hn::DFromV<V> dw;
+    const hn::Rebind<float, decltype(dw)> df;
+    const auto q = hn::Div(hn::ConvertTo(df, hn::ShiftLeftSame(a, aShift)),
+                           hn::ConvertTo(df, hn::ShiftLeftSame(b, bShift)));
+    const auto offset = hn::Set(df, 0x1.8p23f);
+    return hn::Sub(hn::BitCast(dw, hn::Add(hn::Round(q), offset)),
+                   hn::BitCast(dw, offset));
   }
 };
 
-// 16s at large negative scales: (a aScale) / b in double, clamped to the
-// sample range before rounding.
+// (a aScale) / b in double, clamped to the 16s range before rounding: the
+// large negative scales, and the scales past which every quotient is 0 or a
+// bound. Each half of the int32 lanes goes through its own doubles.
 struct DoubleQuotient {
-  using DF = hn::ScalableTag<double>;
-  using DW = hn::Rebind<int32_t, DF>;
   double aScale;
   template <class V>
   HWY_INLINE V operator()(V a, V b) const {
-    const DF df;
-    const DW dw;
-    const auto q = hn::Div(hn::Mul(hn::PromoteTo(df, a), hn::Set(df, aScale)),
-                           hn::PromoteTo(df, b));
-    const auto clamped = hn::Min(hn::Max(q, hn::Set(df, -32768.0)),
-                                 hn::Set(df, 32767.0));
-    return hn::DemoteTo(dw, hn::Round(clamped));
+    const hn::DFromV<V> dw;
+    const hn::Half<decltype(dw)> dh;
+    const hn::Repartition<double, decltype(dw)> df;
+    const auto half = [&](auto ah, auto bh) {
+      const auto q = hn::Div(hn::Mul(hn::PromoteTo(df, ah), hn::Set(df, aScale)),
+                             hn::PromoteTo(df, bh));
+      const auto clamped = hn::Min(hn::Max(q, hn::Set(df, -32768.0)),
+                                   hn::Set(df, 32767.0));
+      return hn::DemoteTo(dh, hn::Round(clamped));
+    };
+    return hn::Combine(dw, half(hn::UpperHalf(dh, a), hn::UpperHalf(dh, b)),
+                       half(hn::LowerHalf(dh, a), hn::LowerHalf(dh, b)));
   }
 };
 
-// dividend / divisor of integer samples. A zero divisor warns and gives the
-// bound of the dividend's sign, or 0 for a dividend of 0.
+// The int32 lanes of the lower or upper four words of every 128-bit block.
+// Widening and narrowing (with ReorderDemote2To) block by block keeps every
+// sample in its block, so the words need no reordering across the vector.
+template <class D32, class V16>
+HWY_INLINE hn::Vec<D32> LowerWordsOfBlocks(D32 d32, V16 words) {
+  return hn::ShiftRight<16>(hn::BitCast(d32, hn::InterleaveLower(words, words)));
+}
+template <class D32, class V16>
+HWY_INLINE hn::Vec<D32> UpperWordsOfBlocks(D32 d32, V16 words) {
+  const hn::DFromV<V16> d16;
+  return hn::ShiftRight<16>(hn::BitCast(d32, hn::InterleaveUpper(d16, words, words)));
+}
+
+// dividend / divisor of integer samples, a vector of words at a time, each
+// half of it in int32 lanes. A zero divisor warns and gives the bound of the
+// dividend's sign, or 0 for a dividend of 0.
 template <typename T, class Quotient>
 struct IntDivRule {
-  using DW = typename Quotient::DW;
-  hn::Rebind<T, DW> d;
+  using D16 = hn::ScalableTag<int16_t>;
+  hn::Rebind<T, D16> d;
   Quotient quotient;
   HWY_INLINE auto operator()(const T* divisor, const T* dividend, size_t valid,
                              VokStatus& warning) const {
-    const DW dw;
-    const auto a = hn::PromoteTo(dw, hn::LoadU(d, dividend));
-    const auto b = hn::PromoteTo(dw, hn::LoadU(d, divisor));
-    const auto byZero = hn::Eq(b, hn::Zero(dw));
-    NoteWarning(dw, byZero, valid, vokWarnDivideByZero, warning);
+    const D16 d16;
+    const hn::Repartition<int32_t, D16> d32;
+    const auto words = [&](const T* p) {
+      if constexpr (std::is_same_v<T, int16_t>) {
+        return hn::LoadU(d16, p);
+      } else {
+        return hn::PromoteTo(d16, hn::LoadU(d, p));
+      }
+    };
+    const auto a = words(dividend), b = words(divisor);
+    NoteWarning(d16, hn::Eq(b, hn::Zero(d16)), valid, vokWarnDivideByZero, warning);
     // a * 2^15 lies beyond the sample range for every non-zero a.
-    return SaturatingNarrow(
-        d, hn::IfThenElse(byZero, hn::ShiftLeft<15>(a), quotient(a, b)));
+    const auto quotients = [&](auto a32, auto b32) {
+      return hn::IfThenElse(hn::Eq(b32, hn::Zero(d32)), hn::ShiftLeft<15>(a32),
+                            quotient(a32, b32));
+    };
+    const auto result = hn::ReorderDemote2To(
+        d16, quotients(LowerWordsOfBlocks(d32, a), LowerWordsOfBlocks(d32, b)),
+        quotients(UpperWordsOfBlocks(d32, a), UpperWordsOfBlocks(d32, b)));
+    if constexpr (std::is_same_v<T, int16_t>) {
+      return result;
+    } else {
+      return hn::DemoteTo(d, result);
+    }
   }
 };
 
@@ -309,24 +346,36 @@ struct ScaledProductRule {
 
 // ---- Row loops -----------------------------------------------------------
 
-// Applies `rule` to n samples. The last partial group goes through padded
-// stack copies, so nothing outside the row is read or written.
+// Applies `rule` to the first `count` samples, fewer than a vector, through
+// padded stack copies, so nothing outside them is read or written.
 template <typename T, class Rule>
-HWY_INLINE void RunRow(const Rule& rule, const T* a, const T* b, T* out,
-                       size_t n, VokStatus& warning) {
-  const size_t lanes = hn::Lanes(rule.d);
-  size_t i = 0;
-  for (; i + lanes <= n; i += lanes)
-    hn::StoreU(rule(a + i, b + i, lanes, warning), rule.d, out + i);
-  if (i == n) return;
-  const size_t rest = n - i;
+HWY_INLINE void RunPartial(const Rule& rule, const T* a, const T* b, T* out,
+                           size_t count, VokStatus& warning) {
+  if (count == 0) return;
   HWY_ALIGN T partA[HWY_MAX_BYTES / sizeof(T)] = {};
   HWY_ALIGN T partB[HWY_MAX_BYTES / sizeof(T)] = {};
   HWY_ALIGN T partOut[HWY_MAX_BYTES / sizeof(T)];
-  std::memcpy(partA, a + i, rest * sizeof(T));
-  std::memcpy(partB, b + i, rest * sizeof(T));
-  hn::Store(rule(partA, partB, rest, warning), rule.d, partOut);
-  std::memcpy(out + i, partOut, rest * sizeof(T));
+  std::memcpy(partA, a, count * sizeof(T));
+  std::memcpy(partB, b, count * sizeof(T));
+  hn::Store(rule(partA, partB, count, warning), rule.d, partOut);
+  std::memcpy(out, partOut, count * sizeof(T));
+}
+
+// Applies `rule` to n samples, left to right, streaming the stores when
+// `stream` is set and the destination allows it.
+template <typename T, class Rule>
+HWY_INLINE void RunRow(const Rule& rule, const T* a, const T* b, T* out,
+                       size_t n, bool stream, VokStatus& warning) {
+  const size_t lanes = hn::Lanes(rule.d);
+  size_t i = 0;
+  if (stream && StreamingHead(out, lanes, n, i)) {
+    RunPartial(rule, a, b, out, i, warning);
+    for (; i + lanes <= n; i += lanes)
+      hn::Stream(rule(a + i, b + i, lanes, warning), rule.d, out + i);
+  }
+  for (; i + lanes <= n; i += lanes)
+    hn::StoreU(rule(a + i, b + i, lanes, warning), rule.d, out + i);
+  RunPartial(rule, a + i, b + i, out + i, n - i, warning);
 }
 
 // The AC4 copy of one row: the first three samples of every four.
@@ -344,12 +393,15 @@ VokStatus RunRows(const ElementaryJob& job, const Rule& rule) {
   VokStatus warning = vokStatusOk;
   const size_t n = job.rowSamples;
   T* scratch = static_cast<T*>(job.alphaRow);
+  const size_t images = job.b != nullptr ? 3 : 2;
+  const bool stream = scratch == nullptr &&
+                      n * sizeof(T) * images * job.height >= kStreamingBytes;
   for (int y = 0; y < job.height; ++y) {
     const T* a = RowAt(static_cast<const T*>(job.a), job.aStep, y);
     const T* b = job.b ? RowAt(static_cast<const T*>(job.b), job.bStep, y) : a;
     T* dst = RowAt(static_cast<T*>(job.dst), job.dstStep, y);
     if (scratch == nullptr) {
-      RunRow(rule, a, b, dst, n, warning);
+      RunRow(rule, a, b, dst, n, stream, warning);
       continue;
     }
     if (job.op == ElementaryOp::kDiv) {
@@ -358,21 +410,25 @@ VokStatus RunRows(const ElementaryJob& job, const Rule& rule) {
       CopyKeepingAlpha(a, scratch, n);
       a = scratch;
     }
-    RunRow(rule, a, b, scratch, n, warning);
+    RunRow(rule, a, b, scratch, n, false, warning);
     CopyKeepingAlpha(scratch, dst, n);
   }
+  if (stream) hwy::FlushStream();
   return warning;
 }
 
 // ---- Integer division ------------------------------------------------------
 
 // Scales past which a quotient is the same for every sample: 0 above, the
-// bound of its sign below. 16s goes through double from kDoubleAtOrBelow.
+// bound of its sign below. From kDoubleAtOrBelow down the quotients go
+// through double, which keeps those of float within 2^21 of zero. For 8u
+// that changes no result: a quotient of samples below 256 lies at least
+// 1/510 off every half that it does not hit, far beyond the error of float.
 template <typename T>
 struct DivLimits;
 template <>
 struct DivLimits<uint8_t> {
-  static constexpr int kZeroAbove = 8, kBoundBelow = -15, kDoubleAtOrBelow = -16;
+  static constexpr int kZeroAbove = 8, kBoundBelow = -15, kDoubleAtOrBelow = -8;
 };
 template <>
 struct DivLimits<int16_t> {
@@ -382,15 +438,15 @@ struct DivLimits<int16_t> {
 template <typename T>
 VokStatus RunIntDiv(const ElementaryJob& job) {
   using Limits = DivLimits<T>;
+  using DoubleRule = IntDivRule<T, DoubleQuotient>;
   const int s = job.scale;
-  using FloatRule = IntDivRule<T, FloatQuotient>;
-  if (s > Limits::kZeroAbove) return RunRows<T>(job, FloatRule{{}, {0.0f, 1.0f}});
-  if (s < Limits::kBoundBelow) return RunRows<T>(job, FloatRule{{}, {0x1p40f, 1.0f}});
+  if (s > Limits::kZeroAbove) return RunRows<T>(job, DoubleRule{{}, {0.0}});
+  if (s < Limits::kBoundBelow) return RunRows<T>(job, DoubleRule{{}, {0x1p40}});
   if (s <= Limits::kDoubleAtOrBelow) {
-    return RunRows<T>(job, IntDivRule<T, DoubleQuotient>{{}, {std::ldexp(1.0, -s)}});
+    return RunRows<T>(job, DoubleRule{{}, {std::ldexp(1.0, -s)}});
   }
-  return RunRows<T>(job, FloatRule{{}, {std::ldexp(1.0f, std::max(-s, 0)),
-                                        std::ldexp(1.0f, std::max(s, 0))}});
+  return RunRows<T>(job, IntDivRule<T, FloatQuotient>{
+                             {}, {std::max(-s, 0), std::max(s, 0)}});
 }
 
 // k = 2^-s / c in float, or the factor that gives 0 or the bound for all.

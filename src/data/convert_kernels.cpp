@@ -5,7 +5,9 @@
 #define HWY_TARGET_INCLUDE "data/convert_kernels.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 
+#include <algorithm>
 #include <bit>
+#include <cmath>
 #include <cstdint>
 #include <type_traits>
 
@@ -80,50 +82,98 @@ HWY_INLINE hn::Vec<DN> NarrowPair(DN dn, V lo, V hi) {
   return hn::Combine(dn, hn::DemoteTo(dh, hi), hn::DemoteTo(dh, lo));
 }
 
+// The low halves of the lanes of two vectors, in order: lo's, then hi's.
+template <class DN, class V>
+HWY_INLINE hn::Vec<DN> LowHalves(DN dn, V lo, V hi) {
+  return hn::ConcatEven(dn, hn::BitCast(dn, hi), hn::BitCast(dn, lo));
+}
+
 // Float samples to 8- or 16-bit results a whole vector at a time, from two or
-// four vectors of floats that `toInt` maps to int32.
-template <typename TD, class ToInt>
+// four vectors of floats. `range.Upper` maps x to a value y already held to
+// the result's upper bound, NaN included; the result is y raised to
+// `range.lower` and rounded in the thread's rounding mode, which the entry
+// has set. Unsigned targets round by adding 1.5 * 2^23, which leaves the
+// integer in the low bits of the sum's pattern for y within 2^22 of zero;
+// raising the pattern as a signed integer to the one of lower + 1.5 * 2^23
+// then raises every smaller sum, negative ones and -infinity included, and
+// makes the rounding of a negative y irrelevant. Signed targets raise y to
+// the lower bound and convert in the mode.
+template <typename TD, class Range>
 struct FromFloatRule {
   hn::ScalableTag<TD> d;
-  ToInt toInt;
+  Range range;
   HWY_INLINE auto operator()(const float* a, const float*) const {
     const hn::ScalableTag<float> df;
     const size_t n = hn::Lanes(df);
-    const auto part = [&](size_t k) {
-      return toInt(df, hn::LoadU(df, a + k * n));
+    const auto upper = [&](size_t k) {
+      return range.Upper(df, hn::LoadU(df, a + k * n));
     };
-    if constexpr (sizeof(TD) == 2) {
-      return NarrowPair(d, part(0), part(1));
+    if constexpr (std::is_unsigned_v<TD>) {
+      const hn::RebindToSigned<decltype(df)> di;
+      const hn::Repartition<uint16_t, decltype(df)> d16;
+      const auto offset = hn::Set(df, 0x1.8p23f);
+      const auto lowest = hn::BitCast(di, hn::Add(hn::Set(df, range.lower), offset));
+      const auto part = [&](size_t k) {
+        return hn::Max(hn::BitCast(di, hn::Add(upper(k), offset)), lowest);
+      };
+      const auto words = [&](size_t k) {
+        return LowHalves(d16, part(k), part(k + 1));
+      };
+      if constexpr (sizeof(TD) == 2) {
+        return words(0);
+      } else {
+        return LowHalves(d, words(0), words(2));
+      }
     } else {
-      const hn::Repartition<int16_t, decltype(df)> d16;
-      return NarrowPair(d, NarrowPair(d16, part(0), part(1)),
-                        NarrowPair(d16, part(2), part(3)));
+      const auto part = [&](size_t k) {
+        return hn::NearestInt(hn::Max(upper(k), hn::Set(df, range.lower)));
+      };
+      if constexpr (sizeof(TD) == 2) {
+        return NarrowPair(d, part(0), part(1));
+      } else {
+        const hn::Repartition<int16_t, decltype(df)> d16;
+        return NarrowPair(d, NarrowPair(d16, part(0), part(1)),
+                          NarrowPair(d16, part(2), part(3)));
+      }
     }
   }
 };
 
-// Clamp from above, then round in the thread's rounding mode, which the
-// entry has set. Min is minps, which takes its second operand where x is NaN,
-// so NaN gives hi. Clamping from below before rounding would change nothing:
-// the saturating narrowing takes anything below lo to lo.
+// Convert: the target's range. Min is minps, which takes its second operand
+// where x is NaN, so NaN gives the top.
 template <typename TD>
-struct ClampAndRound {
+struct TargetRange {
+  float lower = static_cast<float>(hwy::LowestValue<TD>());
   template <class DF, class V>
-  HWY_INLINE auto operator()(DF df, V x) const {
-    const auto hi = hn::Set(df, static_cast<float>(hwy::HighestValue<TD>()));
-    return hn::NearestInt(hn::Min(x, hi));
+  HWY_INLINE V Upper(DF df, V x) const {
+    return hn::Min(x, hn::Set(df, static_cast<float>(hwy::HighestValue<TD>())));
   }
 };
 
-// Clamp to [vMin, vMax] (NaN takes vMax, as above), x * k + b, round to
-// nearest even under the mode that the entry has set.
-struct ScaleAndRound {
-  float vMin, vMax, k, b;
+// Scale with a finite k > 0 and a finite b. x * k + b, each step rounded,
+// never falls as x grows, so clamping x to [vMin, vMax] first is clamping
+// the result to its values there, with NaN taking the top as above. Those
+// bounds are held to [0, 255], which after rounding is the saturation.
+struct ScaledRange {
+  float k, b, lower, upper;
   template <class DF, class V>
-  HWY_INLINE auto operator()(DF df, V x) const {
+  HWY_INLINE V Upper(DF df, V x) const {
+    return hn::Min(hn::Add(hn::Mul(x, hn::Set(df, k)), hn::Set(df, b)),
+                   hn::Set(df, upper));
+  }
+};
+
+// Scale where k overflowed or b is not finite: x clamped to [vMin, vMax]
+// (NaN taking vMax), x * k + b, then the saturation, where the NaN that
+// infinity times 0 gives becomes 0.
+struct DegenerateScaledRange {
+  float vMin, vMax, k, b;
+  float lower = 0.0f;
+  template <class DF, class V>
+  HWY_INLINE V Upper(DF df, V x) const {
     const auto clamped = hn::Max(hn::Min(x, hn::Set(df, vMax)), hn::Set(df, vMin));
-    return hn::NearestInt(
-        hn::Add(hn::Mul(clamped, hn::Set(df, k)), hn::Set(df, b)));
+    const auto y = hn::Add(hn::Mul(clamped, hn::Set(df, k)), hn::Set(df, b));
+    return hn::Min(hn::Max(y, hn::Zero(df)), hn::Set(df, 255.0f));
   }
 };
 
@@ -226,11 +276,18 @@ void ConvertRows(const ConvertJob& job) {
         // Computed here, under the rounding mode that the entry has set.
         const float k = 255.0f / (job.vMax - job.vMin);
         const float b = -k * job.vMin;
-        return Apply<TS, TD>(job, FromFloatRule<TD, ScaleAndRound>{
-                                      {}, {job.vMin, job.vMax, k, b}});
+        if (!(std::isfinite(k) && k > 0.0f && std::isfinite(b))) {
+          return Apply<TS, TD>(job, FromFloatRule<TD, DegenerateScaledRange>{
+                                        {}, {job.vMin, job.vMax, k, b}});
+        }
+        const float atMin = job.vMin * k + b, atMax = job.vMax * k + b;
+        return Apply<TS, TD>(
+            job, FromFloatRule<TD, ScaledRange>{
+                     {}, {k, b, std::clamp(atMin, 0.0f, 255.0f),
+                          std::clamp(atMax, 0.0f, 255.0f)}});
       }
     }
-    Apply<TS, TD>(job, FromFloatRule<TD, ClampAndRound<TD>>{});
+    Apply<TS, TD>(job, FromFloatRule<TD, TargetRange<TD>>{});
   } else if constexpr (sizeof(TS) < sizeof(TD)) {
     if constexpr (std::is_same_v<TS, uint8_t> && std::is_same_v<TD, float>) {
       if (scale) {

@@ -69,24 +69,40 @@ HWY_INLINE void ApplyPartial(const Rule& rule, const TA* a, const TB* b,
   std::memcpy(out, partOut, count * sizeof(TO));
 }
 
-// Applies `rule` to n samples of a and b into out. Streaming stores bypass
-// the cache; they need a destination aligned to whole vectors, which a
-// partial first group reaches.
+// Streaming stores bypass the cache; they need a destination aligned to
+// whole vectors, which a partial first group of `head` samples reaches. False
+// where no group can: vectors under 16 bytes, or samples off their own
+// alignment.
+template <typename TO>
+HWY_INLINE bool StreamingHead(const TO* out, size_t lanes, size_t n,
+                              size_t& head) {
+  const size_t vectorBytes = lanes * sizeof(TO);
+  const size_t misaligned = reinterpret_cast<uintptr_t>(out) % vectorBytes;
+  if (vectorBytes < 16 || misaligned % sizeof(TO) != 0) return false;
+  head = misaligned == 0 ? 0 : std::min(n, (vectorBytes - misaligned) / sizeof(TO));
+  return true;
+}
+
+// Rows whose sources and destination together take at least this many bytes
+// do not stay in the cache from one call to the next, and their destination
+// is written past it, where reading it in first would only cost bandwidth.
+// Below, the cache keeps the destination, and plain stores are faster.
+constexpr size_t kStreamingBytes = size_t{16} << 20;
+
+// Applies `rule` to n samples of a and b into out.
 template <bool kKeepAlpha, bool kStream, class Rule, typename TA, typename TB,
           typename TO>
-HWY_INLINE void ApplyRowImpl(const Rule& rule, const TA* a, const TB* b,
+HWY_INLINE void ApplyRowImpl(const Rule& shared, const TA* a, const TB* b,
                              TO* out, size_t n) {
+  // A copy of its own, which byte stores cannot alias: the rule's constants
+  // then stay in registers for the whole row.
+  const Rule rule = shared;
   const auto d = rule.d;
   const size_t lanes = hn::Lanes(d);
   size_t i = 0;
   if constexpr (kStream) {
-    const size_t vectorBytes = lanes * sizeof(TO);
-    const size_t misaligned = reinterpret_cast<uintptr_t>(out) % vectorBytes;
-    if (vectorBytes >= 16 && misaligned % sizeof(TO) == 0) {
-      if (misaligned != 0) {
-        i = std::min(n, (vectorBytes - misaligned) / sizeof(TO));
-        ApplyPartial<false>(rule, a, b, out, i);
-      }
+    if (StreamingHead(out, lanes, n, i)) {
+      if (i != 0) ApplyPartial<false>(rule, a, b, out, i);
       for (; i + lanes <= n; i += lanes) hn::Stream(rule(a + i, b + i), d, out + i);
     }
   }
@@ -98,10 +114,6 @@ HWY_INLINE void ApplyRowImpl(const Rule& rule, const TA* a, const TB* b,
   }
   if (i < n) ApplyPartial<kKeepAlpha>(rule, a + i, b + i, out + i, n - i);
 }
-
-// Destinations at least this large are written past the cache, where
-// reading them in first would only cost bandwidth.
-constexpr size_t kStreamingBytes = size_t{8} << 20;
 
 template <class Rule, typename TA, typename TB, typename TO>
 HWY_INLINE void ApplyRow(const Rule& rule, const TA* a, const TB* b, TO* out,
@@ -126,12 +138,26 @@ HWY_NOINLINE void ApplyRows(const ElementRows& rows, int y0, int y1,
                             const Rule& rule) {
   const size_t n = rows.rowSamples;
   const bool keepAlpha = rows.layout.keepAlpha;
-  const bool stream = n * sizeof(TO) * rows.height >= kStreamingBytes;
+  // b counts when it is an image of its own, not a repeat of a.
+  const bool secondImage = rows.b != nullptr && rows.b != rows.a;
+  const size_t rowBytes =
+      n * (sizeof(T) + (secondImage ? sizeof(T) : 0) + sizeof(TO));
+  const bool stream = rowBytes * rows.height >= kStreamingBytes;
   if (rows.constant == nullptr) {
-    for (int y = y0; y < y1; ++y) {
+    // Rows that follow each other without a gap in every image run as one,
+    // which saves the set-up and the partial group of each row.
+    const auto packed = [&](ptrdiff_t step, size_t sampleSize) {
+      return step == static_cast<ptrdiff_t>(n * sampleSize);
+    };
+    const bool oneRun = packed(rows.aStep, sizeof(T)) &&
+                        packed(rows.bStep, sizeof(T)) &&
+                        packed(rows.dstStep, sizeof(TO));
+    const int yEnd = oneRun ? y0 + 1 : y1;
+    const size_t runSamples = oneRun ? n * static_cast<size_t>(y1 - y0) : n;
+    for (int y = y0; y < yEnd; ++y) {
       ApplyRow(rule, RowAt(static_cast<const T*>(rows.a), rows.aStep, y),
                RowAt(static_cast<const T*>(rows.b), rows.bStep, y),
-               RowAt(static_cast<TO*>(rows.dst), rows.dstStep, y), n,
+               RowAt(static_cast<TO*>(rows.dst), rows.dstStep, y), runSamples,
                keepAlpha, stream);
     }
     hwy::FlushStream();

@@ -341,6 +341,55 @@ TEST(ElementaryExhaustive, LnAndExp) {
   EverySample<Vok8u>(Op::kExp, exp8u, {-100, 40, 300, 368, 369});
 }
 
+// Every pair of 8u samples, at every scale up to the fixed results: the
+// kernels may divide in float or double, and no quotient may tell.
+TEST(ElementaryExhaustive, Div8uEveryPair) {
+  std::vector<Vok8u> divisor(65536), dividend(65536), dst(65536);
+  for (size_t i = 0; i < divisor.size(); ++i) {
+    divisor[i] = static_cast<Vok8u>(i);
+    dividend[i] = static_cast<Vok8u>(i >> 8);
+  }
+  vok_test::ForEachTarget([&](const char*) {
+    for (int scale : Range(-16, 9)) {
+      SCOPED_TRACE(scale);
+      ASSERT_EQ(voksDiv_8u_Sfs(divisor.data(), dividend.data(), dst.data(), 65536, scale),
+                vokWarnDivideByZero);
+      VokStatus warning = vokStatusOk;
+      size_t wrong = 0;
+      for (size_t i = 0; i < dst.size(); ++i)
+        wrong += dst[i] != DivModel<Vok8u>(divisor[i], dividend[i], scale, warning);
+      EXPECT_EQ(wrong, 0u);
+    }
+  });
+}
+
+// Images of many megabytes store past the cache, from a misaligned first
+// sample; they must give the same bytes and the same warning.
+TEST(ElementaryModel, LargeImagesMatchTheModel) {
+  std::mt19937 rng(15);
+  const int width = 2051, height = 1000;  // 8.2 MB per image
+  Image<Vok32f> divisor(width, height, 1, 12, 4), dividend(width, height, 1, 4, 8);
+  divisor.randomize(rng);
+  dividend.randomize(rng);
+  divisor.set(width - 1, height / 2, 0, 0.0f);
+  vok_test::ForEachTarget([&](const char*) {
+    Image<Vok32f> dst(width, height, 1, 20, 4);
+    ASSERT_EQ(vokiDiv_32f_C1R(divisor.data(), divisor.step(), dividend.data(),
+                              dividend.step(), dst.data(), dst.step(), dst.size()),
+              vokWarnDivideByZero);
+    VokStatus warning = vokStatusOk;
+    size_t wrong = 0;
+    for (int y = 0; y < height; ++y)
+      for (int x = 0; x < width; ++x) {
+        const Vok32f want = DivModel<Vok32f>(divisor.at(x, y), dividend.at(x, y), 0, warning);
+        const Vok32f got = dst.at(x, y);
+        wrong += std::memcmp(&got, &want, sizeof(got)) != 0;
+      }
+    EXPECT_EQ(wrong, 0u);
+    EXPECT_TRUE(dst.guardsIntact());
+  });
+}
+
 // Units in the last place between f and the double-precision reference,
 // at most, over samples where the reference is a normal float.
 template <class F, class Ref>

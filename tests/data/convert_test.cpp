@@ -168,7 +168,9 @@ const std::vector<Extra> kRoundings = {{vokRoundNear}, {vokRoundZero}, {7}};
 const std::vector<Extra> kRanges = {{vokRoundNear, 0, 1},
                                     {vokRoundNear, -100, 300},
                                     {vokRoundNear, 10, 10.5f},
-                                    {vokRoundNear, -1e6f, 3.25f}};
+                                    {vokRoundNear, -1e6f, 3.25f},
+                                    {vokRoundNear, 3e6f, 3e6f + 0.75f},
+                                    {vokRoundNear, -3e38f, 3e38f}};
 const std::vector<Extra> kHints = {{vokRoundNear, 0, 1, vokHintNone},
                                    {vokRoundNear, 0, 1, vokHintFast},
                                    {vokRoundNear, 0, 1, vokHintAccurate}};
@@ -208,6 +210,29 @@ TEST(ScaleModel, FullRangeOntoFullRange) {
   CheckForms<Vok16u, Vok8u>({FORMS(vokiScale_16u8u, Vok16u, Vok8u, kScale, HINTED)}, kHints, 36);
   CheckForms<Vok16s, Vok8u>({FORMS(vokiScale_16s8u, Vok16s, Vok8u, kScale, HINTED)}, kHints, 37);
   CheckForms<Vok32s, Vok8u>({FORMS(vokiScale_32s8u, Vok32s, Vok8u, kScale, HINTED)}, kHints, 38);
+}
+
+// Images of many megabytes store past the cache, from a misaligned first
+// sample, with gaps between rows and without; they give the same bytes.
+TEST(ConvertModel, LargeImagesMatchTheModel) {
+  std::mt19937 rng(41);
+  const int width = 2051, height = 1700;  // 17 MB of 8u and 32f together
+  for (int pad : {0, 12}) {
+    SCOPED_TRACE(pad);
+    Image<Vok8u> src(width, height, 1, pad, 3);
+    src.randomize(rng);
+    vok_test::ForEachTarget([&](const char*) {
+      Image<Vok32f> dst(width, height, 1, pad, pad == 0 ? 0 : 4);
+      ASSERT_EQ(vokiConvert_8u32f_C1R(src.data(), src.step(), dst.data(), dst.step(),
+                                      src.size()),
+                vokStatusOk);
+      size_t wrong = 0;
+      for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) wrong += dst.at(x, y) != float(src.at(x, y));
+      EXPECT_EQ(wrong, 0u);
+      EXPECT_TRUE(dst.guardsIntact());
+    });
+  }
 }
 
 // ---- Worked values ----------------------------------------------------------
@@ -260,6 +285,12 @@ TEST(ScaleValues, EndsOfTheRanges) {
   EXPECT_EQ(out[0], 128);  // 127.5 goes to the even 128
   EXPECT_EQ(out[1], 255);
   EXPECT_EQ(out[2], 255);
+  // A range so narrow that 255 / range overflows: inf * 0 makes every
+  // result NaN, which the rounding gives as 0.
+  ASSERT_EQ(vokiScale_32f8u_C1R(floats, 12, out, 3, VokiSize{3, 1}, 0, 3e-38f), vokStatusOk);
+  EXPECT_EQ(out[0], 0);
+  EXPECT_EQ(out[1], 0);
+  EXPECT_EQ(out[2], 0);
 }
 
 // The caller's rounding mode neither leaks into the results nor changes.
