@@ -32,11 +32,12 @@ struct ComplexMulRule {
   }
 };
 
-// Runs block(in, in2, out) over whole vectors of `lanes` elements, then once
+// Runs block(in, in2, out) over whole blocks of `lanes` elements, then once
 // over the rest through zero-padded stack copies, so nothing beyond the
-// arrays is touched. The arrays hold kIn, kIn2 and kOut samples per element.
-template <size_t kIn, size_t kIn2, size_t kOut, typename TI, typename TI2,
-          typename TO, class Block>
+// arrays is touched. The arrays hold kIn, kIn2 and kOut samples per element;
+// a block spans kVectors float vectors.
+template <size_t kIn, size_t kIn2, size_t kOut, size_t kVectors = 1,
+          typename TI, typename TI2, typename TO, class Block>
 HWY_INLINE void ElementLoop(size_t lanes, const TI* in, const TI2* in2,
                             TO* out, size_t n, const Block& block) {
   size_t i = 0;
@@ -44,9 +45,10 @@ HWY_INLINE void ElementLoop(size_t lanes, const TI* in, const TI2* in2,
     block(in + kIn * i, in2 + kIn2 * i, out + kOut * i);
   if (i == n) return;
   const size_t rest = n - i;
-  HWY_ALIGN TI partIn[2 * HWY_MAX_BYTES / sizeof(TI)] = {};
-  HWY_ALIGN TI2 partIn2[2 * HWY_MAX_BYTES / sizeof(TI2)] = {};
-  HWY_ALIGN TO partOut[2 * HWY_MAX_BYTES / sizeof(TO)] = {};
+  constexpr size_t kBytes = 2 * kVectors * HWY_MAX_BYTES;
+  HWY_ALIGN TI partIn[kBytes / sizeof(TI)] = {};
+  HWY_ALIGN TI2 partIn2[kBytes / sizeof(TI2)] = {};
+  HWY_ALIGN TO partOut[kBytes / sizeof(TO)] = {};
   std::memcpy(partIn, in + kIn * i, kIn * rest * sizeof(TI));
   std::memcpy(partIn2, in2 + kIn2 * i, kIn2 * rest * sizeof(TI2));
   block(partIn, partIn2, partOut);
@@ -63,44 +65,70 @@ HWY_INLINE auto SignBitSet(DF d, VF v) {
 }
 
 // atan2(im, re) by the rational approximation on the first octant, folded
-// out by the quadrant, with the standard function's zeros and infinities.
-HWY_INLINE VF Phase(DF d, VF re, VF im) {
-  const VF zero = hn::Zero(d), one = hn::Set(d, 1.0f);
-  const VF ax = hn::Abs(re), ay = hn::Abs(im);
-  const auto reZero = hn::Eq(ax, zero);
-  // u is |im| / |re| or its reciprocal, whichever is at most 1, in one
-  // correctly rounded division (0 / 0 where both are zero, repaired below).
-  const auto above = hn::Gt(ay, ax);
-  const VF u = hn::Div(hn::Min(ax, ay), hn::Max(ax, ay));
-  const VF w = hn::Mul(u, u);
+// out by the quadrant, in two halves: StartPhase forms the quotient
+// u = min(|re|, |im|) / max(|re|, |im|), EndPhase the rest. Callers start the
+// next vectors before they end the current ones, so that the long chain of
+// two divisions and two polynomials overlaps with the next one.
+struct PhaseStart {
+  VF re, im, u;
+  hn::Mask<DF> above;  // |im| > |re|: the angle folds over pi / 4
+};
+
+HWY_INLINE PhaseStart StartPhase(DF d, const float* pairs) {
+  PhaseStart s;
+  hn::LoadInterleaved2(d, pairs, s.re, s.im);
+  const VF ax = hn::Abs(s.re), ay = hn::Abs(s.im);
+  s.above = hn::Gt(ay, ax);
+  // minps and maxps return their second operand when one is NaN: in this
+  // order a NaN part always reaches u.
+  s.u = hn::Div(hn::Min(ax, ay), hn::Max(ay, ax));
+  return s;
+}
+
+// The phase of the finite parts that are not both zero; NaN elsewhere, where
+// RepairPhase takes over.
+HWY_INLINE VF EndPhase(DF d, const PhaseStart& s) {
+  const VF one = hn::Set(d, 1.0f);
+  const VF w = hn::Mul(s.u, s.u);
   const auto poly = [&](float c1, float c2, float c3) {
     VF p = hn::Add(hn::Mul(hn::Set(d, c3), w), hn::Set(d, c2));
     p = hn::Add(hn::Mul(p, w), hn::Set(d, c1));
     return hn::Add(hn::Mul(p, w), one);
   };
-  // The denominator lies in [1, 3.1]: an estimate of its reciprocal and one
-  // Newton step are within the last bit.
-  const VF den = poly(1.4535671f, 0.56503099f, 0.049017590f);
-  VF r = hn::ApproximateReciprocal(den);
-  r = hn::Mul(r, hn::Sub(hn::Set(d, 2.0f), hn::Mul(den, r)));
-  VF a = hn::Mul(hn::Mul(u, poly(1.1202340f, 0.28050455f, 0.0085611893f)), r);
-  a = hn::IfThenElse(above, hn::Sub(hn::Set(d, kHalfPi), a), a);
-  a = hn::IfThenElse(hn::Lt(re, zero), hn::Sub(hn::Set(d, kPi), a), a);
-  a = hn::CopySign(a, im);
-  // Repairs, rarely needed: re of zero, both parts infinite, and NaN.
-  const auto special = hn::Or(reZero, hn::Not(hn::IsFinite(hn::Add(ax, ay))));
-  if (hn::AllFalse(d, special)) return a;
+  // A true division, not the hardware's estimate of the reciprocal: the
+  // estimates differ between instruction sets and so would the last bit.
+  VF a = hn::Div(hn::Mul(s.u, poly(1.1202340f, 0.28050455f, 0.0085611893f)),
+                 poly(1.4535671f, 0.56503099f, 0.049017590f));
+  a = hn::IfThenElse(s.above, hn::Sub(hn::Set(d, kHalfPi), a), a);
+  a = hn::IfThenElse(hn::Lt(s.re, hn::Zero(d)), hn::Sub(hn::Set(d, kPi), a), a);
+  return hn::CopySign(a, s.im);
+}
+
+// The lanes where u was 0 / 0 or infinity / infinity, and NaN parts, as the
+// standard atan2 has them. A zero or infinite part beside a finite one needs
+// nothing: u is 0 there and the fold gives 0, pi / 2 or pi.
+HWY_NOINLINE VF RepairPhase(DF d, VF re, VF im, VF a) {
+  const VF zero = hn::Zero(d);
   const VF onAxis = hn::IfThenElse(SignBitSet(d, re), hn::Set(d, kPi), zero);
-  a = hn::IfThenElse(reZero,
-                     hn::IfThenElse(hn::Eq(ay, zero), onAxis,
-                                    hn::Set(d, kHalfPi)),
-                     a);
+  a = hn::IfThenElse(hn::And(hn::Eq(re, zero), hn::Eq(im, zero)), onAxis, a);
   const VF diagonal = hn::IfThenElse(hn::Lt(re, zero), hn::Set(d, 2.35619449f),
                                      hn::Set(d, 0.785398163f));
   a = hn::IfThenElse(hn::And(hn::IsInf(re), hn::IsInf(im)), diagonal, a);
   a = hn::CopySign(a, im);  // the repaired values are magnitudes
-  return hn::IfThenElse(hn::Or(hn::IsNaN(re), hn::IsNaN(im)), hn::Add(re, im),
-                        a);
+  return hn::IfThenElse(hn::Or(hn::IsNaN(re), hn::IsNaN(im)), hn::Add(re, im), a);
+}
+
+// Ends two started vectors and stores them at out; one test covers both, as
+// the phases are finite, at most pi, unless a lane needs repair.
+HWY_INLINE void EndPhases(DF d, const PhaseStart& s0, const PhaseStart& s1,
+                          float* out) {
+  VF a0 = EndPhase(d, s0), a1 = EndPhase(d, s1);
+  if (HWY_UNLIKELY(!hn::AllFalse(d, hn::IsNaN(hn::Add(a0, a1))))) {
+    a0 = RepairPhase(d, s0.re, s0.im, a0);
+    a1 = RepairPhase(d, s1.re, s1.im, a1);
+  }
+  hn::StoreU(a0, d, out);
+  hn::StoreU(a1, d, out + hn::Lanes(d));
 }
 
 // x minus k * pi, with pi in five parts so that the first products are exact.
@@ -179,13 +207,25 @@ void Magnitude32fcRow(const Vok32fc* src, Vok32f* dst, size_t n) {
 
 void Phase32fcRow(const Vok32fc* src, Vok32f* dst, size_t n) {
   const DF d;
+  const size_t lanes = hn::Lanes(d), step = 2 * lanes;
   const float* in = reinterpret_cast<const float*>(src);
-  ElementLoop<2, 0, 1>(hn::Lanes(d), in, in, dst, n,
-                       [d](const float* s, const float*, float* out) {
-                         VF re, im;
-                         hn::LoadInterleaved2(d, s, re, im);
-                         hn::StoreU(Phase(d, re, im), d, out);
-                       });
+  size_t i = 0;
+  if (n >= step) {
+    PhaseStart s0 = StartPhase(d, in), s1 = StartPhase(d, in + step);
+    for (i = step; i + step <= n; i += step) {
+      const PhaseStart next0 = StartPhase(d, in + 2 * i);
+      const PhaseStart next1 = StartPhase(d, in + 2 * i + step);
+      EndPhases(d, s0, s1, dst + i - step);
+      s0 = next0;
+      s1 = next1;
+    }
+    EndPhases(d, s0, s1, dst + i - step);
+  }
+  ElementLoop<2, 0, 1, 2>(step, in + 2 * i, in, dst + i, n - i,
+                          [d, step](const float* s, const float*, float* out) {
+                            EndPhases(d, StartPhase(d, s),
+                                      StartPhase(d, s + step), out);
+                          });
 }
 
 // The sine reduces by the nearest multiple k of pi, the cosine by the
