@@ -6,6 +6,7 @@
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 
 #include <cstring>
+#include <limits>
 
 #include "arith/vector.h"
 #include "foundation/rows-inl.h"
@@ -29,6 +30,65 @@ struct ComplexMulRule {
     const VF p = hn::Mul(hn::DupEven(x), y);                   // ar*br, ar*bi
     const VF q = hn::Mul(hn::DupOdd(x), hn::Reverse2(d, y));   // ai*bi, ai*br
     return hn::OddEven(hn::Add(p, q), hn::Sub(p, q));
+  }
+};
+
+// x * 2^-s of 32-bit lanes, 1 <= s <= 31, to nearest with ties to even and
+// without overflow: the floor quotient, plus one where the remainder passes
+// the half or meets it while the quotient is odd.
+struct HalvingsToEven {
+  int s;
+  template <class DW>
+  HWY_INLINE hn::VFromD<DW> operator()(DW dw, hn::VFromD<DW> x) const {
+    const auto q = hn::ShiftRightSame(x, s);
+    const auto r = hn::And(x, hn::Set(dw, static_cast<int32_t>((uint32_t{1} << s) - 1)));
+    const auto half = hn::Set(dw, static_cast<int32_t>(uint32_t{1} << (s - 1)));
+    const auto up = hn::Gt(r, hn::Sub(half, hn::And(q, hn::Set(dw, 1))));
+    return hn::Sub(q, hn::VecFromMask(dw, up));
+  }
+};
+
+// x * 2^k of 32-bit lanes, 0 <= k <= 16, for a 16-bit result: x is limited
+// to that range first, which changes no saturated result and keeps the
+// product in 32 bits.
+struct DoublingsSaturated {
+  int k;
+  template <class DW>
+  HWY_INLINE hn::VFromD<DW> operator()(DW dw, hn::VFromD<DW> x) const {
+    const auto limited = hn::Min(hn::Max(x, hn::Set(dw, -32768)), hn::Set(dw, 32767));
+    return hn::ShiftLeftSame(limited, k);
+  }
+};
+
+// The exact (ar, ai) * (br, bi) on interleaved 16-bit parts, scaled by
+// `stage` and saturated. Pairwise products in 32-bit lanes give
+// ar*br + ai*~bi + ai for the real part (the complement keeps -32768 in
+// range) and ar*bi + ai*br for the imaginary part, which leaves 32 bits only
+// as 2^31, from four parts of -32768: it wraps to -2^31 and is taken as
+// 2^31 - 1, which every scale maps to the same result.
+template <class Stage>
+struct ComplexMul16Rule {
+  hn::ScalableTag<int16_t> d;
+  Stage stage;
+  HWY_INLINE auto operator()(const int16_t* a, const int16_t* b) const {
+    const hn::Repartition<int32_t, decltype(d)> dw;
+    const hn::RebindToUnsigned<decltype(dw)> du;
+    const auto va = hn::LoadU(d, a), vb = hn::LoadU(d, b);
+    const auto complement = hn::BitCast(
+        d, hn::Xor(hn::BitCast(dw, vb), hn::Set(dw, static_cast<int32_t>(0xFFFF0000u))));
+    const auto swapped = hn::BitCast(d, hn::RotateRight<16>(hn::BitCast(du, vb)));
+    auto unused = hn::Zero(dw);
+    auto re = hn::ReorderWidenMulAccumulate(dw, va, complement,
+                                            hn::ShiftRight<16>(hn::BitCast(dw, va)), unused);
+    re = hn::RearrangeToOddPlusEven(re, unused);
+    auto im = hn::ReorderWidenMulAccumulate(dw, va, swapped, hn::Zero(dw), unused);
+    im = hn::RearrangeToOddPlusEven(im, unused);
+    const auto wrapped = hn::Set(dw, std::numeric_limits<int32_t>::min());
+    im = hn::Add(im, hn::VecFromMask(dw, hn::Eq(im, wrapped)));
+    const auto lo = hn::Set(dw, -32768), hi = hn::Set(dw, 32767);
+    re = hn::Min(hn::Max(stage(dw, re), lo), hi);
+    im = hn::Min(hn::Max(stage(dw, im), lo), hi);
+    return hn::BitCast(d, hn::Or(hn::And(re, hn::Set(dw, 0xFFFF)), hn::ShiftLeft<16>(im)));
   }
 };
 
@@ -191,6 +251,17 @@ HWY_INLINE VF RoundedAndClamped(DF d, VF v, FromFloat how, float lo, float hi,
 
 void ComplexMulRows32f(const ElementRows& rows) {
   ApplyRows<float, float>(rows, 0, rows.height, ComplexMulRule{});
+}
+
+void ComplexMulRows16sc(const ElementRows& rows, int scale) {
+  if (scale >= 1) {
+    ApplyRows<int16_t, int16_t>(rows, 0, rows.height,
+                                ComplexMul16Rule<HalvingsToEven>{{}, {scale}});
+  } else {
+    const int k = scale < -16 ? 16 : -scale;
+    ApplyRows<int16_t, int16_t>(rows, 0, rows.height,
+                                ComplexMul16Rule<DoublingsSaturated>{{}, {k}});
+  }
 }
 
 // The parts are squared where they lie, and one pair of permutes gathers
@@ -413,6 +484,7 @@ HWY_AFTER_NAMESPACE();
 namespace vok {
 
 HWY_EXPORT(ComplexMulRows32f);
+HWY_EXPORT(ComplexMulRows16sc);
 HWY_EXPORT(Magnitude32fcRow);
 HWY_EXPORT(Phase32fcRow);
 HWY_EXPORT(PolarToCart32fcRow);
@@ -430,6 +502,9 @@ HWY_EXPORT(ZeroBytesRow);
 
 void RunComplexMul32f(const ElementRows& rows) {
   HWY_DYNAMIC_DISPATCH(ComplexMulRows32f)(rows);
+}
+void RunComplexMul16sc(const ElementRows& rows, int scale) {
+  HWY_DYNAMIC_DISPATCH(ComplexMulRows16sc)(rows, scale);
 }
 void Magnitude32fc(const Vok32fc* src, Vok32f* dst, size_t n) {
   HWY_DYNAMIC_DISPATCH(Magnitude32fcRow)(src, dst, n);
