@@ -290,15 +290,18 @@ void Phase32fcRow(const Vok32fc* src, Vok32f* dst, size_t n) {
   const float* in = reinterpret_cast<const float*>(src);
   size_t i = 0;
   if (n >= step) {
-    PhaseStart s0 = StartPhase(d, in), s1 = StartPhase(d, in + step);
-    for (i = step; i + step <= n; i += step) {
-      const PhaseStart next0 = StartPhase(d, in + 2 * i);
-      const PhaseStart next1 = StartPhase(d, in + 2 * i + step);
-      EndPhases(d, s0, s1, dst + i - step);
-      s0 = next0;
-      s1 = next1;
+    // Two pairs per turn, each started while the other ends, so that no
+    // started pair is copied between turns.
+    PhaseStart a0 = StartPhase(d, in), a1 = StartPhase(d, in + step);
+    for (i = step; i + 2 * step <= n; i += 2 * step) {
+      const PhaseStart b0 = StartPhase(d, in + 2 * i);
+      const PhaseStart b1 = StartPhase(d, in + 2 * i + step);
+      EndPhases(d, a0, a1, dst + i - step);
+      a0 = StartPhase(d, in + 2 * i + 2 * step);
+      a1 = StartPhase(d, in + 2 * i + 3 * step);
+      EndPhases(d, b0, b1, dst + i);
     }
-    EndPhases(d, s0, s1, dst + i - step);
+    EndPhases(d, a0, a1, dst + i - step);
   }
   ElementLoop<2, 0, 1, 2>(step, in + 2 * i, in, dst + i, n - i,
                           [d, step](const float* s, const float*, float* out) {
