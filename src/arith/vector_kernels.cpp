@@ -77,12 +77,12 @@ struct ComplexMul16Rule {
     const auto complement = hn::BitCast(
         d, hn::Xor(hn::BitCast(dw, vb), hn::Set(dw, static_cast<int32_t>(0xFFFF0000u))));
     const auto swapped = hn::BitCast(d, hn::RotateRight<16>(hn::BitCast(du, vb)));
-    auto unused = hn::Zero(dw);
+    auto reRest = hn::Zero(dw), imRest = hn::Zero(dw);
     auto re = hn::ReorderWidenMulAccumulate(dw, va, complement,
-                                            hn::ShiftRight<16>(hn::BitCast(dw, va)), unused);
-    re = hn::RearrangeToOddPlusEven(re, unused);
-    auto im = hn::ReorderWidenMulAccumulate(dw, va, swapped, hn::Zero(dw), unused);
-    im = hn::RearrangeToOddPlusEven(im, unused);
+                                            hn::ShiftRight<16>(hn::BitCast(dw, va)), reRest);
+    re = hn::RearrangeToOddPlusEven(re, reRest);
+    auto im = hn::ReorderWidenMulAccumulate(dw, va, swapped, hn::Zero(dw), imRest);
+    im = hn::RearrangeToOddPlusEven(im, imRest);
     const auto wrapped = hn::Set(dw, std::numeric_limits<int32_t>::min());
     im = hn::Add(im, hn::VecFromMask(dw, hn::Eq(im, wrapped)));
     const auto lo = hn::Set(dw, -32768), hi = hn::Set(dw, 32767);
