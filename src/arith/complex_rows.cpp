@@ -1,8 +1,9 @@
 // Row routines of the complex families. The float sums and products of the
 // vector rule run on the SIMD kernels of the real types and of the complex
-// product; the exact integer products and the divisions need 64 or 128 bits
-// that the instruction sets lack in vector lanes, and the plain loops of the
-// AC4 and constant C3 forms are sample by sample by definition.
+// product, and so do the exact 16sc products; the other exact integer
+// products and the divisions need 64 or 128 bits that the instruction sets
+// lack in vector lanes, and the plain loops of the AC4 and constant C3 forms
+// are sample by sample by definition.
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -319,6 +320,16 @@ VokStatus RunComplex<Vok16sc>(const ComplexJob& job) {
   if (job.op == ComplexOp::kAdd || job.op == ComplexOp::kSub) {
     RunScaled16s(PartRows(job.rows),
                  job.op == ComplexOp::kAdd ? ArithOp::kAdd : ArithOp::kSub, job.scale);
+    return vokStatusOk;
+  }
+  if (job.op == ComplexOp::kMul) {
+    if (job.scale < 32) {
+      RunComplexMul16sc(PartRows(job.rows), job.scale);
+    } else {  // a product is at most 2^31
+      for (int y = 0; y < job.rows.height; ++y)
+        ZeroBytes(RowAt(static_cast<Vok16sc*>(job.rows.dst), job.rows.dstStep, y),
+                  job.rows.rowSamples * sizeof(Vok16sc));
+    }
     return vokStatusOk;
   }
   return RunVectorInteger<Vok16sc>(job);

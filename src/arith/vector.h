@@ -17,6 +17,11 @@ namespace vok {
 // b is `layout.channels` floats, one complex value per channel.
 void RunComplexMul32f(const ElementRows& rows);
 
+// The exact products of 16sc rows under the scale-factor rule, for scales up
+// to 31 (above, every product rounds to zero). The rows count 16-bit parts,
+// and a constant b is `layout.channels` parts.
+void RunComplexMul16sc(const ElementRows& rows, int scale);
+
 void Magnitude32fc(const Vok32fc* src, Vok32f* dst, size_t n);
 void Phase32fc(const Vok32fc* src, Vok32f* dst, size_t n);
 void PolarToCart32fc(const Vok32f* mag, const Vok32f* phase, Vok32fc* dst,

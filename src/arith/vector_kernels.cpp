@@ -6,6 +6,7 @@
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 
 #include <cstring>
+#include <limits>
 
 #include "arith/vector.h"
 #include "foundation/rows-inl.h"
@@ -32,11 +33,71 @@ struct ComplexMulRule {
   }
 };
 
-// Runs block(in, in2, out) over whole vectors of `lanes` elements, then once
+// x * 2^-s of 32-bit lanes, 1 <= s <= 31, to nearest with ties to even and
+// without overflow: the floor quotient, plus one where the remainder passes
+// the half or meets it while the quotient is odd.
+struct HalvingsToEven {
+  int s;
+  template <class DW>
+  HWY_INLINE hn::VFromD<DW> operator()(DW dw, hn::VFromD<DW> x) const {
+    const auto q = hn::ShiftRightSame(x, s);
+    const auto r = hn::And(x, hn::Set(dw, static_cast<int32_t>((uint32_t{1} << s) - 1)));
+    const auto half = hn::Set(dw, static_cast<int32_t>(uint32_t{1} << (s - 1)));
+    const auto up = hn::Gt(r, hn::Sub(half, hn::And(q, hn::Set(dw, 1))));
+    return hn::Sub(q, hn::VecFromMask(dw, up));
+  }
+};
+
+// x * 2^k of 32-bit lanes, 0 <= k <= 16, for a 16-bit result: x is limited
+// to that range first, which changes no saturated result and keeps the
+// product in 32 bits.
+struct DoublingsSaturated {
+  int k;
+  template <class DW>
+  HWY_INLINE hn::VFromD<DW> operator()(DW dw, hn::VFromD<DW> x) const {
+    const auto limited = hn::Min(hn::Max(x, hn::Set(dw, -32768)), hn::Set(dw, 32767));
+    return hn::ShiftLeftSame(limited, k);
+  }
+};
+
+// The exact (ar, ai) * (br, bi) on interleaved 16-bit parts, scaled by
+// `stage` and saturated. Pairwise products in 32-bit lanes give
+// ar*br + ai*~bi + ai for the real part (the complement keeps -32768 in
+// range) and ar*bi + ai*br for the imaginary part, which leaves 32 bits only
+// as 2^31, from four parts of -32768: it wraps to -2^31 and is taken as
+// 2^31 - 1, which every scale maps to the same result.
+template <class Stage>
+struct ComplexMul16Rule {
+  hn::ScalableTag<int16_t> d;
+  Stage stage;
+  HWY_INLINE auto operator()(const int16_t* a, const int16_t* b) const {
+    const hn::Repartition<int32_t, decltype(d)> dw;
+    const hn::RebindToUnsigned<decltype(dw)> du;
+    const auto va = hn::LoadU(d, a), vb = hn::LoadU(d, b);
+    const auto complement = hn::BitCast(
+        d, hn::Xor(hn::BitCast(dw, vb), hn::Set(dw, static_cast<int32_t>(0xFFFF0000u))));
+    const auto swapped = hn::BitCast(d, hn::RotateRight<16>(hn::BitCast(du, vb)));
+    auto reRest = hn::Zero(dw), imRest = hn::Zero(dw);
+    auto re = hn::ReorderWidenMulAccumulate(dw, va, complement,
+                                            hn::ShiftRight<16>(hn::BitCast(dw, va)), reRest);
+    re = hn::RearrangeToOddPlusEven(re, reRest);
+    auto im = hn::ReorderWidenMulAccumulate(dw, va, swapped, hn::Zero(dw), imRest);
+    im = hn::RearrangeToOddPlusEven(im, imRest);
+    const auto wrapped = hn::Set(dw, std::numeric_limits<int32_t>::min());
+    im = hn::Add(im, hn::VecFromMask(dw, hn::Eq(im, wrapped)));
+    const auto lo = hn::Set(dw, -32768), hi = hn::Set(dw, 32767);
+    re = hn::Min(hn::Max(stage(dw, re), lo), hi);
+    im = hn::Min(hn::Max(stage(dw, im), lo), hi);
+    return hn::BitCast(d, hn::Or(hn::And(re, hn::Set(dw, 0xFFFF)), hn::ShiftLeft<16>(im)));
+  }
+};
+
+// Runs block(in, in2, out) over whole blocks of `lanes` elements, then once
 // over the rest through zero-padded stack copies, so nothing beyond the
-// arrays is touched. The arrays hold kIn, kIn2 and kOut samples per element.
-template <size_t kIn, size_t kIn2, size_t kOut, typename TI, typename TI2,
-          typename TO, class Block>
+// arrays is touched. The arrays hold kIn, kIn2 and kOut samples per element;
+// a block spans kVectors float vectors.
+template <size_t kIn, size_t kIn2, size_t kOut, size_t kVectors = 1,
+          typename TI, typename TI2, typename TO, class Block>
 HWY_INLINE void ElementLoop(size_t lanes, const TI* in, const TI2* in2,
                             TO* out, size_t n, const Block& block) {
   size_t i = 0;
@@ -44,9 +105,10 @@ HWY_INLINE void ElementLoop(size_t lanes, const TI* in, const TI2* in2,
     block(in + kIn * i, in2 + kIn2 * i, out + kOut * i);
   if (i == n) return;
   const size_t rest = n - i;
-  HWY_ALIGN TI partIn[2 * HWY_MAX_BYTES / sizeof(TI)] = {};
-  HWY_ALIGN TI2 partIn2[2 * HWY_MAX_BYTES / sizeof(TI2)] = {};
-  HWY_ALIGN TO partOut[2 * HWY_MAX_BYTES / sizeof(TO)] = {};
+  constexpr size_t kBytes = 2 * kVectors * HWY_MAX_BYTES;
+  HWY_ALIGN TI partIn[kBytes / sizeof(TI)] = {};
+  HWY_ALIGN TI2 partIn2[kBytes / sizeof(TI2)] = {};
+  HWY_ALIGN TO partOut[kBytes / sizeof(TO)] = {};
   std::memcpy(partIn, in + kIn * i, kIn * rest * sizeof(TI));
   std::memcpy(partIn2, in2 + kIn2 * i, kIn2 * rest * sizeof(TI2));
   block(partIn, partIn2, partOut);
@@ -63,44 +125,70 @@ HWY_INLINE auto SignBitSet(DF d, VF v) {
 }
 
 // atan2(im, re) by the rational approximation on the first octant, folded
-// out by the quadrant, with the standard function's zeros and infinities.
-HWY_INLINE VF Phase(DF d, VF re, VF im) {
-  const VF zero = hn::Zero(d), one = hn::Set(d, 1.0f);
-  const VF ax = hn::Abs(re), ay = hn::Abs(im);
-  const auto reZero = hn::Eq(ax, zero);
-  // u is |im| / |re| or its reciprocal, whichever is at most 1, in one
-  // correctly rounded division (0 / 0 where both are zero, repaired below).
-  const auto above = hn::Gt(ay, ax);
-  const VF u = hn::Div(hn::Min(ax, ay), hn::Max(ax, ay));
-  const VF w = hn::Mul(u, u);
+// out by the quadrant, in two halves: StartPhase forms the quotient
+// u = min(|re|, |im|) / max(|re|, |im|), EndPhase the rest. Callers start the
+// next vectors before they end the current ones, so that the long chain of
+// two divisions and two polynomials overlaps with the next one.
+struct PhaseStart {
+  VF re, im, u;
+  hn::Mask<DF> above;  // |im| > |re|: the angle folds over pi / 4
+};
+
+HWY_INLINE PhaseStart StartPhase(DF d, const float* pairs) {
+  PhaseStart s;
+  hn::LoadInterleaved2(d, pairs, s.re, s.im);
+  const VF ax = hn::Abs(s.re), ay = hn::Abs(s.im);
+  s.above = hn::Gt(ay, ax);
+  // minps and maxps return their second operand when one is NaN: in this
+  // order a NaN part always reaches u.
+  s.u = hn::Div(hn::Min(ax, ay), hn::Max(ay, ax));
+  return s;
+}
+
+// The phase of the finite parts that are not both zero; NaN elsewhere, where
+// RepairPhase takes over.
+HWY_INLINE VF EndPhase(DF d, const PhaseStart& s) {
+  const VF one = hn::Set(d, 1.0f);
+  const VF w = hn::Mul(s.u, s.u);
   const auto poly = [&](float c1, float c2, float c3) {
     VF p = hn::Add(hn::Mul(hn::Set(d, c3), w), hn::Set(d, c2));
     p = hn::Add(hn::Mul(p, w), hn::Set(d, c1));
     return hn::Add(hn::Mul(p, w), one);
   };
-  // The denominator lies in [1, 3.1]: an estimate of its reciprocal and one
-  // Newton step are within the last bit.
-  const VF den = poly(1.4535671f, 0.56503099f, 0.049017590f);
-  VF r = hn::ApproximateReciprocal(den);
-  r = hn::Mul(r, hn::Sub(hn::Set(d, 2.0f), hn::Mul(den, r)));
-  VF a = hn::Mul(hn::Mul(u, poly(1.1202340f, 0.28050455f, 0.0085611893f)), r);
-  a = hn::IfThenElse(above, hn::Sub(hn::Set(d, kHalfPi), a), a);
-  a = hn::IfThenElse(hn::Lt(re, zero), hn::Sub(hn::Set(d, kPi), a), a);
-  a = hn::CopySign(a, im);
-  // Repairs, rarely needed: re of zero, both parts infinite, and NaN.
-  const auto special = hn::Or(reZero, hn::Not(hn::IsFinite(hn::Add(ax, ay))));
-  if (hn::AllFalse(d, special)) return a;
+  // A true division, not the hardware's estimate of the reciprocal: the
+  // estimates differ between instruction sets and so would the last bit.
+  VF a = hn::Div(hn::Mul(s.u, poly(1.1202340f, 0.28050455f, 0.0085611893f)),
+                 poly(1.4535671f, 0.56503099f, 0.049017590f));
+  a = hn::IfThenElse(s.above, hn::Sub(hn::Set(d, kHalfPi), a), a);
+  a = hn::IfThenElse(hn::Lt(s.re, hn::Zero(d)), hn::Sub(hn::Set(d, kPi), a), a);
+  return hn::CopySign(a, s.im);
+}
+
+// The lanes where u was 0 / 0 or infinity / infinity, and NaN parts, as the
+// standard atan2 has them. A zero or infinite part beside a finite one needs
+// nothing: u is 0 there and the fold gives 0, pi / 2 or pi.
+HWY_NOINLINE VF RepairPhase(DF d, VF re, VF im, VF a) {
+  const VF zero = hn::Zero(d);
   const VF onAxis = hn::IfThenElse(SignBitSet(d, re), hn::Set(d, kPi), zero);
-  a = hn::IfThenElse(reZero,
-                     hn::IfThenElse(hn::Eq(ay, zero), onAxis,
-                                    hn::Set(d, kHalfPi)),
-                     a);
+  a = hn::IfThenElse(hn::And(hn::Eq(re, zero), hn::Eq(im, zero)), onAxis, a);
   const VF diagonal = hn::IfThenElse(hn::Lt(re, zero), hn::Set(d, 2.35619449f),
                                      hn::Set(d, 0.785398163f));
   a = hn::IfThenElse(hn::And(hn::IsInf(re), hn::IsInf(im)), diagonal, a);
   a = hn::CopySign(a, im);  // the repaired values are magnitudes
-  return hn::IfThenElse(hn::Or(hn::IsNaN(re), hn::IsNaN(im)), hn::Add(re, im),
-                        a);
+  return hn::IfThenElse(hn::Or(hn::IsNaN(re), hn::IsNaN(im)), hn::Add(re, im), a);
+}
+
+// Ends two started vectors and stores them at out; one test covers both, as
+// the phases are finite, at most pi, unless a lane needs repair.
+HWY_INLINE void EndPhases(DF d, const PhaseStart& s0, const PhaseStart& s1,
+                          float* out) {
+  VF a0 = EndPhase(d, s0), a1 = EndPhase(d, s1);
+  if (HWY_UNLIKELY(!hn::AllFalse(d, hn::IsNaN(hn::Add(a0, a1))))) {
+    a0 = RepairPhase(d, s0.re, s0.im, a0);
+    a1 = RepairPhase(d, s1.re, s1.im, a1);
+  }
+  hn::StoreU(a0, d, out);
+  hn::StoreU(a1, d, out + hn::Lanes(d));
 }
 
 // x minus k * pi, with pi in five parts so that the first products are exact.
@@ -165,27 +253,61 @@ void ComplexMulRows32f(const ElementRows& rows) {
   ApplyRows<float, float>(rows, 0, rows.height, ComplexMulRule{});
 }
 
+void ComplexMulRows16sc(const ElementRows& rows, int scale) {
+  if (scale >= 1) {
+    ApplyRows<int16_t, int16_t>(rows, 0, rows.height,
+                                ComplexMul16Rule<HalvingsToEven>{{}, {scale}});
+  } else {
+    const int k = scale < -16 ? 16 : -scale;
+    ApplyRows<int16_t, int16_t>(rows, 0, rows.height,
+                                ComplexMul16Rule<DoublingsSaturated>{{}, {k}});
+  }
+}
+
+// The parts are squared where they lie, and one pair of permutes gathers
+// re^2 and im^2 for each vector of results; two vectors per step keep two
+// roots under way.
 void Magnitude32fcRow(const Vok32fc* src, Vok32f* dst, size_t n) {
   const DF d;
+  const size_t lanes = hn::Lanes(d);
   const float* in = reinterpret_cast<const float*>(src);
-  ElementLoop<2, 0, 1>(hn::Lanes(d), in, in, dst, n,
-                       [d](const float* s, const float*, float* out) {
-                         VF re, im;
-                         hn::LoadInterleaved2(d, s, re, im);
-                         const VF m = hn::Add(hn::Mul(re, re), hn::Mul(im, im));
-                         hn::StoreU(hn::Sqrt(m), d, out);
-                       });
+  const auto magnitudes = [d](const float* s) {
+    const VF lo = hn::LoadU(d, s), hi = hn::LoadU(d, s + hn::Lanes(d));
+    const VF lo2 = hn::Mul(lo, lo), hi2 = hn::Mul(hi, hi);
+    return hn::Sqrt(hn::Add(hn::ConcatEven(d, hi2, lo2), hn::ConcatOdd(d, hi2, lo2)));
+  };
+  ElementLoop<2, 0, 1, 2>(2 * lanes, in, in, dst, n,
+                          [=](const float* s, const float*, float* out) {
+                            const VF m0 = magnitudes(s), m1 = magnitudes(s + 2 * lanes);
+                            hn::StoreU(m0, d, out);
+                            hn::StoreU(m1, d, out + lanes);
+                          });
 }
 
 void Phase32fcRow(const Vok32fc* src, Vok32f* dst, size_t n) {
   const DF d;
+  const size_t lanes = hn::Lanes(d), step = 2 * lanes;
   const float* in = reinterpret_cast<const float*>(src);
-  ElementLoop<2, 0, 1>(hn::Lanes(d), in, in, dst, n,
-                       [d](const float* s, const float*, float* out) {
-                         VF re, im;
-                         hn::LoadInterleaved2(d, s, re, im);
-                         hn::StoreU(Phase(d, re, im), d, out);
-                       });
+  size_t i = 0;
+  if (n >= step) {
+    // Two pairs per turn, each started while the other ends, so that no
+    // started pair is copied between turns.
+    PhaseStart a0 = StartPhase(d, in), a1 = StartPhase(d, in + step);
+    for (i = step; i + 2 * step <= n; i += 2 * step) {
+      const PhaseStart b0 = StartPhase(d, in + 2 * i);
+      const PhaseStart b1 = StartPhase(d, in + 2 * i + step);
+      EndPhases(d, a0, a1, dst + i - step);
+      a0 = StartPhase(d, in + 2 * i + 2 * step);
+      a1 = StartPhase(d, in + 2 * i + 3 * step);
+      EndPhases(d, b0, b1, dst + i);
+    }
+    EndPhases(d, a0, a1, dst + i - step);
+  }
+  ElementLoop<2, 0, 1, 2>(step, in + 2 * i, in, dst + i, n - i,
+                          [d, step](const float* s, const float*, float* out) {
+                            EndPhases(d, StartPhase(d, s),
+                                      StartPhase(d, s + step), out);
+                          });
 }
 
 // The sine reduces by the nearest multiple k of pi, the cosine by the
@@ -365,6 +487,7 @@ HWY_AFTER_NAMESPACE();
 namespace vok {
 
 HWY_EXPORT(ComplexMulRows32f);
+HWY_EXPORT(ComplexMulRows16sc);
 HWY_EXPORT(Magnitude32fcRow);
 HWY_EXPORT(Phase32fcRow);
 HWY_EXPORT(PolarToCart32fcRow);
@@ -382,6 +505,9 @@ HWY_EXPORT(ZeroBytesRow);
 
 void RunComplexMul32f(const ElementRows& rows) {
   HWY_DYNAMIC_DISPATCH(ComplexMulRows32f)(rows);
+}
+void RunComplexMul16sc(const ElementRows& rows, int scale) {
+  HWY_DYNAMIC_DISPATCH(ComplexMulRows16sc)(rows, scale);
 }
 void Magnitude32fc(const Vok32fc* src, Vok32f* dst, size_t n) {
   HWY_DYNAMIC_DISPATCH(Magnitude32fcRow)(src, dst, n);

@@ -309,6 +309,44 @@ TEST(ComplexCases, ProductOfMostNegativeParts) {
   EXPECT_EQ(std::tuple(out.re, out.im, scaled.im), std::tuple(0, 32767, 16384));
 }
 
+// Every combination of extreme and small parts, at every scale where the
+// rounding, the saturation or the limit of 32 bits shows, through the
+// product of two arrays and the product with a few of the pairs as constant.
+TEST(ComplexCases, Products16scAtEveryScale) {
+  const Vok16s parts[] = {-32768, -32767, -12345, -3, -1, 0, 1, 181, 32767};
+  std::vector<Vok16sc> a, b;
+  for (Vok16s ar : parts)
+    for (Vok16s ai : parts)
+      for (Vok16s br : parts)
+        for (Vok16s bi : parts) {
+          a.push_back({ar, ai});
+          b.push_back({br, bi});
+        }
+  const int n = static_cast<int>(a.size());
+  const Vok16sc constants[] = {b[0], b[1000], b[4321]};
+  // The model's results by scale: the array product, then each constant's.
+  std::vector<std::vector<Vok16sc>> want;
+  for (int s = -18; s <= 34; ++s)
+    for (int form = 0; form < 4; ++form) {
+      std::vector<Vok16sc>& w = want.emplace_back(n);
+      for (int i = 0; i < n; ++i)
+        w[i] = Model<Vok16sc>(Op::kMul, false, false, false, a[i], form == 0 ? b[i] : constants[form - 1], s,
+                              nullptr);
+    }
+  std::vector<Vok16sc> got(n);
+  vok_test::ForEachTarget([&](const char*) {
+    for (int s = -18, row = 0; s <= 34; ++s)
+      for (int form = 0; form < 4; ++form, ++row) {
+        ASSERT_EQ(form == 0 ? voksMul_16sc_Sfs(a.data(), b.data(), got.data(), n, s)
+                            : voksMulC_16sc_Sfs(a.data(), constants[form - 1], got.data(), n, s),
+                  vokStatusOk);
+        for (int i = 0; i < n; ++i)
+          ASSERT_EQ(std::tuple(got[i].re, got[i].im), std::tuple(want[row][i].re, want[row][i].im))
+              << "scale " << s << ", form " << form << ", sample " << i;
+      }
+  });
+}
+
 // ---- Checks ------------------------------------------------------------------------
 
 // Constant forms test their constant before the image: an all-zero constant

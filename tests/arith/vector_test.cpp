@@ -213,15 +213,44 @@ TEST(VectorPolar, MagnitudePhaseAndBack) {
   });
 }
 
-// Signed zeros, infinities and NaN as atan2 has them, (-1, +0) giving pi.
+// Every instruction set gives the same bytes, over finite parts of every
+// exponent: the reciprocals inside must not follow the hardware's estimates.
+TEST(VectorPolar, SameBytesOnEveryTarget) {
+  std::mt19937 rng(37);
+  const int n = 4099;
+  std::vector<Vok32fc> src(n);
+  for (auto& c : src) {
+    const auto part = [&] { return std::ldexp(float(int32_t(rng())) * 0x1p-31f, int(rng() % 200) - 100); };
+    c = {part(), part()};
+  }
+  std::vector<std::vector<float>> results;
+  vok_test::ForEachTarget([&](const char*) {
+    std::vector<float> mag(n), phase(n);
+    ASSERT_EQ(voksMagnitude_32fc(src.data(), mag.data(), n), vokStatusOk);
+    ASSERT_EQ(voksPhase_32fc(src.data(), phase.data(), n), vokStatusOk);
+    mag.insert(mag.end(), phase.begin(), phase.end());
+    if (!results.empty()) {
+      for (int i = 0; i < 2 * n; ++i)
+        ASSERT_EQ(std::bit_cast<uint32_t>(mag[i]), std::bit_cast<uint32_t>(results[0][i]))
+            << (i < n ? "magnitude " : "phase ") << i % n;
+    }
+    results.push_back(std::move(mag));
+  });
+}
+
+// Signed zeros, infinities and NaN as atan2 has them, (-1, +0) giving pi,
+// cycled through a long array so that each lands in every vector position.
 TEST(VectorPolar, PhaseConventionsOfAtan2) {
   const float inf = INFINITY;
-  const Vok32fc src[] = {{-1, 0}, {0, 0}, {-0.0f, 0}, {0, -0.0f}, {-0.0f, -0.0f}, {0, 3},
-                         {inf, 1}, {-inf, 1}, {1, inf}, {inf, inf}, {-inf, -inf}, {NAN, 1}, {2, -2}};
-  const int n = std::size(src);
+  const Vok32fc cases[] = {{-1, 0}, {0, 0}, {-0.0f, 0}, {0, -0.0f}, {-0.0f, -0.0f}, {0, 3}, {-0.0f, -inf},
+                           {inf, 1}, {-inf, 1}, {1, inf}, {inf, inf}, {-inf, -inf}, {inf, -inf},
+                           {NAN, 1}, {1, -NAN}, {NAN, inf}, {2, -2}};
+  const int n = 101;
+  std::vector<Vok32fc> src(n);
+  for (int i = 0; i < n; ++i) src[i] = cases[i % std::size(cases)];
   std::vector<float> phase(n);
   vok_test::ForEachTarget([&](const char*) {
-    ASSERT_EQ(voksPhase_32fc(src, phase.data(), n), vokStatusOk);
+    ASSERT_EQ(voksPhase_32fc(src.data(), phase.data(), n), vokStatusOk);
     for (int i = 0; i < n; ++i) {
       const float want = std::atan2(src[i].im, src[i].re), got = phase[i];
       EXPECT_TRUE(std::isnan(want) ? std::isnan(got)
@@ -229,6 +258,15 @@ TEST(VectorPolar, PhaseConventionsOfAtan2) {
           << i << ": " << got;
     }
     EXPECT_EQ(phase[0], std::numbers::pi_v<float>);
+    // A lone NaN part among ordinary samples is returned as well.
+    for (int at : {0, 37, 100})
+      for (const Vok32fc lone : {Vok32fc{NAN, 1}, Vok32fc{1, NAN}}) {
+        std::vector<Vok32fc> plain(n, Vok32fc{3, -4});
+        plain[at] = lone;
+        ASSERT_EQ(voksPhase_32fc(plain.data(), phase.data(), n), vokStatusOk);
+        EXPECT_TRUE(std::isnan(phase[at])) << at;
+        EXPECT_NEAR(phase[at == 0 ? 1 : 0], std::atan2(-4.0f, 3.0f), 4e-7);
+      }
   });
 }
 
