@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "arith/arith.h"
+#include "arith/scale_stages-inl.h"
 #include "foundation/parallel.h"
 #include "foundation/rows-inl.h"
 #include "hwy/highway.h"
@@ -43,39 +44,6 @@ using WideOf = std::conditional_t<sizeof(T) == 1 && !std::is_same<Op, Mul>::valu
 struct Exactly {
   template <class V>
   V operator()(V x) const { return x; }
-};
-
-// Divides by 2^s (s >= 1) rounding to nearest with ties to even, without
-// overflow: floor quotient q plus one when the remainder passes the half,
-// or meets it while q is odd.
-template <class DW>
-struct RoundingShift {
-  DW dw;
-  int shift;
-  template <class V>
-  V operator()(V x) const {
-    using W = hn::TFromD<DW>;
-    const V q = hn::ShiftRightSame(x, shift);
-    const V r = hn::And(x, hn::Set(dw, static_cast<W>((1 << shift) - 1)));
-    const V rOdd = hn::Add(r, hn::And(q, hn::Set(dw, W{1})));
-    const auto up = hn::Gt(rOdd, hn::Set(dw, static_cast<W>(1 << (shift - 1))));
-    return hn::Sub(q, hn::VecFromMask(dw, up));
-  }
-};
-
-// Multiplies by 2^k after saturating, which cannot change a saturated result
-// and keeps the shift inside the wide lanes.
-template <class DW, typename T>
-struct SaturatingLeftShift {
-  DW dw;
-  int shift;
-  template <class V>
-  V operator()(V x) const {
-    using W = hn::TFromD<DW>;
-    const V lo = hn::Set(dw, static_cast<W>(hwy::LowestValue<T>()));
-    const V hi = hn::Set(dw, static_cast<W>(hwy::HighestValue<T>()));
-    return hn::ShiftLeftSame(hn::Min(hn::Max(x, lo), hi), shift);
-  }
 };
 
 // Where every non-zero result saturates: only the sign of x matters.

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <limits>
 
+#include "arith/scale_stages-inl.h"
 #include "arith/vector.h"
 #include "foundation/rows-inl.h"
 #include "hwy/cache_control.h"
@@ -30,33 +31,6 @@ struct ComplexMulRule {
     const VF p = hn::Mul(hn::DupEven(x), y);                   // ar*br, ar*bi
     const VF q = hn::Mul(hn::DupOdd(x), hn::Reverse2(d, y));   // ai*bi, ai*br
     return hn::OddEven(hn::Add(p, q), hn::Sub(p, q));
-  }
-};
-
-// x * 2^-s of 32-bit lanes, 1 <= s <= 31, to nearest with ties to even and
-// without overflow: the floor quotient, plus one where the remainder passes
-// the half or meets it while the quotient is odd.
-struct HalvingsToEven {
-  int s;
-  template <class DW>
-  HWY_INLINE hn::VFromD<DW> operator()(DW dw, hn::VFromD<DW> x) const {
-    const auto q = hn::ShiftRightSame(x, s);
-    const auto r = hn::And(x, hn::Set(dw, static_cast<int32_t>((uint32_t{1} << s) - 1)));
-    const auto half = hn::Set(dw, static_cast<int32_t>(uint32_t{1} << (s - 1)));
-    const auto up = hn::Gt(r, hn::Sub(half, hn::And(q, hn::Set(dw, 1))));
-    return hn::Sub(q, hn::VecFromMask(dw, up));
-  }
-};
-
-// x * 2^k of 32-bit lanes, 0 <= k <= 16, for a 16-bit result: x is limited
-// to that range first, which changes no saturated result and keeps the
-// product in 32 bits.
-struct DoublingsSaturated {
-  int k;
-  template <class DW>
-  HWY_INLINE hn::VFromD<DW> operator()(DW dw, hn::VFromD<DW> x) const {
-    const auto limited = hn::Min(hn::Max(x, hn::Set(dw, -32768)), hn::Set(dw, 32767));
-    return hn::ShiftLeftSame(limited, k);
   }
 };
 
@@ -86,8 +60,8 @@ struct ComplexMul16Rule {
     const auto wrapped = hn::Set(dw, std::numeric_limits<int32_t>::min());
     im = hn::Add(im, hn::VecFromMask(dw, hn::Eq(im, wrapped)));
     const auto lo = hn::Set(dw, -32768), hi = hn::Set(dw, 32767);
-    re = hn::Min(hn::Max(stage(dw, re), lo), hi);
-    im = hn::Min(hn::Max(stage(dw, im), lo), hi);
+    re = hn::Min(hn::Max(stage(re), lo), hi);
+    im = hn::Min(hn::Max(stage(im), lo), hi);
     return hn::BitCast(d, hn::Or(hn::And(re, hn::Set(dw, 0xFFFF)), hn::ShiftLeft<16>(im)));
   }
 };
@@ -254,13 +228,17 @@ void ComplexMulRows32f(const ElementRows& rows) {
 }
 
 void ComplexMulRows16sc(const ElementRows& rows, int scale) {
+  const hn::ScalableTag<int32_t> dw;
   if (scale >= 1) {
+    using Stage = RoundingShift<decltype(dw)>;
     ApplyRows<int16_t, int16_t>(rows, 0, rows.height,
-                                ComplexMul16Rule<HalvingsToEven>{{}, {scale}});
+                                ComplexMul16Rule<Stage>{{}, Stage{dw, scale}});
   } else {
+    // Beyond 2^16 every non-zero product saturates alike.
+    using Stage = SaturatingLeftShift<decltype(dw), int16_t>;
     const int k = scale < -16 ? 16 : -scale;
     ApplyRows<int16_t, int16_t>(rows, 0, rows.height,
-                                ComplexMul16Rule<DoublingsSaturated>{{}, {k}});
+                                ComplexMul16Rule<Stage>{{}, Stage{dw, k}});
   }
 }
 
