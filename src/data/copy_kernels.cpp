@@ -12,6 +12,7 @@
 #include <array>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 #include "data/copy.h"
 #include "foundation/image.h"
@@ -166,6 +167,24 @@ struct Operand {
   bool written;
 };
 
+// Calls body(at) for the first `groups` groups, two per turn. The pointers
+// are spelled out per operand rather than looped over, so that they stay in
+// registers instead of being rebuilt on the stack for every vector.
+template <size_t K, class Body, size_t... k>
+HWY_INLINE void WalkGroups(size_t groups, size_t lanes,
+                           const std::array<Operand, K>& s, const Body& body,
+                           std::index_sequence<k...>) {
+  std::array<uint8_t*, K> at = {s[k].p...};
+  const std::array<size_t, K> stride = {lanes * s[k].pixelBytes...};
+  size_t g = 0;
+  for (; g + 2 <= groups; g += 2) {
+    body(at);
+    body(std::array<uint8_t*, K>{(at[k] + stride[k])...});
+    ((at[k] += 2 * stride[k]), ...);
+  }
+  if (g < groups) body(at);
+}
+
 // Calls body(at) with at[k] pointing at the same group of `lanes` pixels in
 // every operand. An operand that addresses one channel of interleaved pixels
 // ends at that channel of the last pixel, so the last group, which may be
@@ -174,16 +193,15 @@ template <size_t K, class Body>
 HWY_INLINE void ForPixelGroups(size_t width, size_t lanes,
                                const std::array<Operand, K>& s,
                                const Body& body) {
+  // An operand falls short of whole groups by less than one pixel, so this
+  // takes at most one step per operand and no division.
   size_t groups = width / lanes;
   for (const Operand& operand : s)
-    groups = std::min(groups, operand.extentBytes / (lanes * operand.pixelBytes));
-  std::array<uint8_t*, K> at;
-  for (size_t g = 0; g < groups; ++g) {
-    for (size_t k = 0; k < K; ++k)
-      at[k] = s[k].p + g * lanes * s[k].pixelBytes;
-    body(at);
-  }
+    while (groups > 0 && groups * lanes * operand.pixelBytes > operand.extentBytes)
+      --groups;
+  WalkGroups(groups, lanes, s, body, std::make_index_sequence<K>());
   if (groups * lanes == width) return;
+  std::array<uint8_t*, K> at;
   HWY_ALIGN uint8_t tail[K][4 * HWY_MAX_BYTES] = {};
   size_t offset[K];
   for (size_t k = 0; k < K; ++k) {
