@@ -1,8 +1,10 @@
 // Row kernels of Compare, Threshold and Complement, compiled once per
 // instruction set. Interleaved pixels are split into one vector per channel,
 // so per-channel constants are plain broadcasts and a compare reduces the
-// channels of a pixel with an And. The last group of a row goes through
+// channels of a pixel with an And. Partial groups of a row go through
 // zero-padded stack copies, so nothing outside the row is read or written.
+// Calls too large to stay in the cache stream their one-channel output past
+// it.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "data/compare_kernels.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
@@ -45,10 +47,11 @@ HWY_INLINE void LoadPixels(D d, const T* p, Channels<D>& v) {
   }
 }
 
-template <int kChannels, class D, typename T>
-HWY_INLINE void StorePixels(D d, const Channels<D>& v, T* p) {
+// Only one-channel rows are ever streamed.
+template <int kChannels, class D, typename T, class Streamed>
+HWY_INLINE void StorePixels(D d, const Channels<D>& v, T* p, Streamed streamed) {
   if constexpr (kChannels == 1) {
-    hn::StoreU(v[0], d, p);
+    StoreGroup(streamed, v[0], d, p);
   } else if constexpr (kChannels == 3) {
     hn::StoreInterleaved3(v[0], v[1], v[2], d, p);
   } else {
@@ -136,25 +139,32 @@ void CompareRowsWith(const CompareJob& job, const Test& test) {
     return MaskBytes(d, all);
   };
   const size_t width = job.width;
+  const size_t rowBytes =
+      width * (kChannels * sizeof(T) * (kConstant ? 1 : 2) + 1);
+  const bool stream = rowBytes * job.height >= kStreamingBytes;
   for (int y = 0; y < job.height; ++y) {
     const T* a = RowAt(static_cast<const T*>(job.a), job.aStep, y);
     // With a constant, b is a stand-in that the group never reads.
     const T* b = kConstant ? a : RowAt(static_cast<const T*>(job.b), job.bStep, y);
     uint8_t* out = RowAt(job.dst, job.dstStep, y);
-    size_t x = 0;
-    for (; x + lanes <= width; x += lanes) {
-      hn::StoreU(group(a + x * kChannels, b + x * kChannels), d8, out + x);
-    }
-    if (x < width) {
-      const size_t count = (width - x) * kChannels;
-      const PaddedGroup<T> partA(a + x * kChannels, count);
-      const PaddedGroup<T> partB(kConstant ? partA.samples : b + x * kChannels,
-                                 kConstant ? 0 : count);
-      HWY_ALIGN uint8_t partOut[HWY_MAX_BYTES];
-      hn::Store(group(partA.samples, partB.samples), d8, partOut);
-      std::memcpy(out + x, partOut, width - x);
-    }
+    CoverRow(
+        out, lanes, width, stream,
+        [&](size_t x, auto streamed) {
+          StoreGroup(streamed, group(a + x * kChannels, b + x * kChannels), d8,
+                     out + x);
+        },
+        [&](size_t x, size_t pixels) {
+          const size_t count = pixels * kChannels;
+          const PaddedGroup<T> partA(a + x * kChannels, count);
+          const PaddedGroup<T> partB(
+              kConstant ? partA.samples : b + x * kChannels,
+              kConstant ? 0 : count);
+          HWY_ALIGN uint8_t partOut[HWY_MAX_BYTES];
+          hn::Store(group(partA.samples, partB.samples), d8, partOut);
+          std::memcpy(out + x, partOut, pixels);
+        });
   }
+  hwy::FlushStream();
 }
 
 template <typename T, int kChannels, int kTested, class Test>
@@ -232,11 +242,11 @@ HWY_INLINE hn::Vec<D> ApplyThreshold(const ThresholdConstants<D>& k, int c,
                                      hn::Vec<D> x) {
   constexpr bool kFloat = hwy::IsFloat<hn::TFromD<D>>();
   if constexpr (kRule == ThresholdRule::kLess) {
-    if constexpr (!kFloat) return hn::Max(x, k.t[c]);
-    return hn::IfThenElse(hn::Gt(x, k.t[c]), x, k.t[c]);
+    return kFloat ? hn::IfThenElse(hn::Gt(x, k.t[c]), x, k.t[c])
+                  : hn::Max(x, k.t[c]);
   } else if constexpr (kRule == ThresholdRule::kGreater) {
-    if constexpr (!kFloat) return hn::Min(x, k.t[c]);
-    return hn::IfThenElse(hn::Lt(x, k.t[c]), x, k.t[c]);
+    return kFloat ? hn::IfThenElse(hn::Lt(x, k.t[c]), x, k.t[c])
+                  : hn::Min(x, k.t[c]);
   } else if constexpr (kRule == ThresholdRule::kLessVal) {
     return hn::IfThenElse(LessEq(k.t[c], x), x, k.v[c]);
   } else if constexpr (kRule == ThresholdRule::kGreaterVal) {
@@ -254,7 +264,8 @@ void ThresholdRowsWith(const ThresholdJob& job) {
   const hn::ScalableTag<T> d;
   const size_t lanes = hn::Lanes(d);
   const ThresholdConstants<decltype(d)> constants(d, job);
-  const auto group = [&](const T* src, const T* oldDst, T* out) {
+  const auto group = [&](const T* src, const T* oldDst, T* out,
+                         auto streamed) {
     Channels<decltype(d)> v, old;
     LoadPixels<kChannels>(d, src, v);
     ForEachChannel<kKeepAlpha ? 3 : kChannels>(
@@ -263,24 +274,30 @@ void ThresholdRowsWith(const ThresholdJob& job) {
       LoadPixels<kChannels>(d, oldDst, old);
       v[3] = old[3];
     }
-    StorePixels<kChannels>(d, v, out);
+    StorePixels<kChannels>(d, v, out, streamed);
   };
   const size_t width = job.width;
+  const bool stream = kChannels == 1 && width * 2 * sizeof(T) * job.height >=
+                                            kStreamingBytes;
   for (int y = 0; y < job.height; ++y) {
     const T* src = RowAt(static_cast<const T*>(job.src), job.srcStep, y);
     T* out = RowAt(static_cast<T*>(job.dst), job.dstStep, y);
-    size_t x = 0;
-    for (; x + lanes <= width; x += lanes) {
-      group(src + x * kChannels, out + x * kChannels, out + x * kChannels);
-    }
-    if (x < width) {
-      const size_t count = (width - x) * kChannels;
-      const PaddedGroup<T> part(src + x * kChannels, count);
-      PaddedGroup<T> partOut(out + x * kChannels, kKeepAlpha ? count : 0);
-      group(part.samples, partOut.samples, partOut.samples);
-      std::memcpy(out + x * kChannels, partOut.samples, count * sizeof(T));
-    }
+    CoverRow(
+        out, lanes, width, stream,
+        [&](size_t x, auto streamed) {
+          const size_t i = x * kChannels;
+          group(src + i, out + i, out + i, streamed);
+        },
+        [&](size_t x, size_t pixels) {
+          const size_t i = x * kChannels, count = pixels * kChannels;
+          const PaddedGroup<T> part(src + i, count);
+          PaddedGroup<T> partOut(out + i, kKeepAlpha ? count : 0);
+          group(part.samples, partOut.samples, partOut.samples,
+                std::false_type{});
+          std::memcpy(out + i, partOut.samples, count * sizeof(T));
+        });
   }
+  hwy::FlushStream();
 }
 
 template <typename T, int kChannels, bool kKeepAlpha>
