@@ -1,14 +1,17 @@
 // Row kernels of Compare, Threshold and Complement, compiled once per
 // instruction set. Interleaved pixels are split into one vector per channel,
 // so per-channel constants are plain broadcasts and a compare reduces the
-// channels of a pixel with an And. The last group of a row goes through
+// channels of a pixel with an And. Partial groups of a row go through
 // zero-padded stack copies, so nothing outside the row is read or written.
+// Calls too large to stay in the cache stream their one-channel output past
+// it.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "data/compare_kernels.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 #include "data/compare.h"
 #include "foundation/rows-inl.h"
@@ -24,6 +27,15 @@ namespace {
 template <class D>
 using Channels = hn::Vec<D>[4];
 
+// f(c) for c = 0 .. kCount - 1 as compile-time constants, so that the
+// channel vectors stay in registers instead of an array on the stack.
+template <int kCount, class F>
+HWY_INLINE void ForEachChannel(const F& f) {
+  [&]<int... c>(std::integer_sequence<int, c...>) {
+    (f(std::integral_constant<int, c>{}), ...);
+  }(std::make_integer_sequence<int, kCount>{});
+}
+
 template <int kChannels, class D, typename T>
 HWY_INLINE void LoadPixels(D d, const T* p, Channels<D>& v) {
   if constexpr (kChannels == 1) {
@@ -35,10 +47,11 @@ HWY_INLINE void LoadPixels(D d, const T* p, Channels<D>& v) {
   }
 }
 
-template <int kChannels, class D, typename T>
-HWY_INLINE void StorePixels(D d, const Channels<D>& v, T* p) {
+// Only one-channel rows are ever streamed.
+template <int kChannels, class D, typename T, class Streamed>
+HWY_INLINE void StorePixels(D d, const Channels<D>& v, T* p, Streamed streamed) {
   if constexpr (kChannels == 1) {
-    hn::StoreU(v[0], d, p);
+    StoreGroup(streamed, v[0], d, p);
   } else if constexpr (kChannels == 3) {
     hn::StoreInterleaved3(v[0], v[1], v[2], d, p);
   } else {
@@ -101,66 +114,89 @@ HWY_INLINE auto MaskBytes(D d, M mask) {
   }
 }
 
-template <typename T, int kChannels, class Test>
+// The second operand is the pixels of an image or, with kConstant, one
+// constant per channel held in registers for the whole call. kTested is 3
+// for AC4, which ignores alpha.
+template <typename T, int kChannels, int kTested, bool kConstant, class Test>
 void CompareRowsWith(const CompareJob& job, const Test& test) {
   const hn::ScalableTag<T> d;
   const hn::Rebind<uint8_t, decltype(d)> d8;
   const size_t lanes = hn::Lanes(d);
-  const int tested = job.layout.keepAlpha ? 3 : kChannels;
   Channels<decltype(d)> constant;
-  if (job.constant != nullptr) {
-    for (int c = 0; c < tested; ++c)
+  if constexpr (kConstant) {
+    ForEachChannel<kTested>([&](auto c) {
       constant[c] = hn::Set(d, static_cast<const T*>(job.constant)[c]);
+    });
   }
   const auto group = [&](const T* a, const T* b) {
     Channels<decltype(d)> va, vb;
     LoadPixels<kChannels>(d, a, va);
-    if (b != nullptr) LoadPixels<kChannels>(d, b, vb);
-    const auto& rhs = b != nullptr ? vb : constant;
+    if constexpr (!kConstant) LoadPixels<kChannels>(d, b, vb);
+    const auto& rhs = kConstant ? constant : vb;
     auto all = test(va[0], rhs[0]);
-    for (int c = 1; c < tested; ++c) all = hn::And(all, test(va[c], rhs[c]));
+    ForEachChannel<kTested - 1>(
+        [&](auto c) { all = hn::And(all, test(va[c + 1], rhs[c + 1])); });
     return MaskBytes(d, all);
   };
   const size_t width = job.width;
+  const size_t rowBytes =
+      width * (kChannels * sizeof(T) * (kConstant ? 1 : 2) + 1);
+  const bool stream = rowBytes * job.height >= kStreamingBytes;
   for (int y = 0; y < job.height; ++y) {
     const T* a = RowAt(static_cast<const T*>(job.a), job.aStep, y);
-    const T* b = job.b != nullptr
-                     ? RowAt(static_cast<const T*>(job.b), job.bStep, y)
-                     : nullptr;
+    // With a constant, b is a stand-in that the group never reads.
+    const T* b = kConstant ? a : RowAt(static_cast<const T*>(job.b), job.bStep, y);
     uint8_t* out = RowAt(job.dst, job.dstStep, y);
-    size_t x = 0;
-    for (; x + lanes <= width; x += lanes) {
-      hn::StoreU(group(a + x * kChannels, b ? b + x * kChannels : nullptr), d8,
-                 out + x);
-    }
-    if (x < width) {
-      const size_t count = (width - x) * kChannels;
-      const PaddedGroup<T> partA(a + x * kChannels, count);
-      const PaddedGroup<T> partB(b ? b + x * kChannels : partA.samples,
-                                 b ? count : 0);
-      HWY_ALIGN uint8_t partOut[HWY_MAX_BYTES];
-      hn::Store(group(partA.samples, b ? partB.samples : nullptr), d8, partOut);
-      std::memcpy(out + x, partOut, width - x);
-    }
+    CoverRow(
+        out, lanes, width, stream,
+        [&](size_t x, auto streamed) {
+          StoreGroup(streamed, group(a + x * kChannels, b + x * kChannels), d8,
+                     out + x);
+        },
+        [&](size_t x, size_t pixels) {
+          const size_t count = pixels * kChannels;
+          const PaddedGroup<T> partA(a + x * kChannels, count);
+          const PaddedGroup<T> partB(
+              kConstant ? partA.samples : b + x * kChannels,
+              kConstant ? 0 : count);
+          HWY_ALIGN uint8_t partOut[HWY_MAX_BYTES];
+          hn::Store(group(partA.samples, partB.samples), d8, partOut);
+          std::memcpy(out + x, partOut, pixels);
+        });
+  }
+  hwy::FlushStream();
+}
+
+template <typename T, int kChannels, int kTested, class Test>
+void CompareRowsWith(const CompareJob& job, const Test& test) {
+  if (job.constant != nullptr) {
+    CompareRowsWith<T, kChannels, kTested, true>(job, test);
+  } else {
+    CompareRowsWith<T, kChannels, kTested, false>(job, test);
   }
 }
 
-template <typename T, int kChannels>
+template <typename T, int kChannels, int kTested>
 void CompareRowsOf(const CompareJob& job) {
   switch (job.relation) {
     case Relation::kLess:
-      return CompareRowsWith<T, kChannels>(job, Holds<Relation::kLess>{});
+      return CompareRowsWith<T, kChannels, kTested>(job,
+                                                    Holds<Relation::kLess>{});
     case Relation::kLessEq:
-      return CompareRowsWith<T, kChannels>(job, Holds<Relation::kLessEq>{});
+      return CompareRowsWith<T, kChannels, kTested>(job,
+                                                    Holds<Relation::kLessEq>{});
     case Relation::kEq:
-      return CompareRowsWith<T, kChannels>(job, Holds<Relation::kEq>{});
+      return CompareRowsWith<T, kChannels, kTested>(job,
+                                                    Holds<Relation::kEq>{});
     case Relation::kGreaterEq:
-      return CompareRowsWith<T, kChannels>(job, Holds<Relation::kGreaterEq>{});
+      return CompareRowsWith<T, kChannels, kTested>(
+          job, Holds<Relation::kGreaterEq>{});
     case Relation::kGreater:
-      return CompareRowsWith<T, kChannels>(job, Holds<Relation::kGreater>{});
+      return CompareRowsWith<T, kChannels, kTested>(
+          job, Holds<Relation::kGreater>{});
     case Relation::kEqualEps:
       if constexpr (std::is_same_v<T, float>) {
-        return CompareRowsWith<T, kChannels>(
+        return CompareRowsWith<T, kChannels, kTested>(
             job, Holds<Relation::kEqualEps>{job.eps});
       }
       return;
@@ -170,9 +206,11 @@ void CompareRowsOf(const CompareJob& job) {
 template <typename T>
 void CompareRows(const CompareJob& job) {
   switch (job.layout.channels) {
-    case 1: return CompareRowsOf<T, 1>(job);
-    case 3: return CompareRowsOf<T, 3>(job);
-    default: return CompareRowsOf<T, 4>(job);
+    case 1: return CompareRowsOf<T, 1, 1>(job);
+    case 3: return CompareRowsOf<T, 3, 3>(job);
+    default:
+      return job.layout.keepAlpha ? CompareRowsOf<T, 4, 3>(job)
+                                  : CompareRowsOf<T, 4, 4>(job);
   }
 }
 
@@ -185,8 +223,9 @@ struct ThresholdConstants {
   ThresholdConstants(D d, const ThresholdJob& job) {
     using T = hn::TFromD<D>;
     const auto broadcast = [&](const void* p, Channels<D>& out) {
-      for (int c = 0; c < 4; ++c)
+      ForEachChannel<4>([&](auto c) {
         out[c] = hn::Set(d, p ? static_cast<const T*>(p)[c] : T{0});
+      });
     };
     broadcast(job.threshold, t);
     broadcast(job.value, v);
@@ -196,14 +235,18 @@ struct ThresholdConstants {
 };
 
 // NaN samples fail every comparison below: max and min give t, the lower
-// replacement gives v, the upper one keeps the NaN.
+// replacement gives v, the upper one keeps the NaN. Integers take the single
+// instruction of Max and Min, whose NaN result Highway leaves open.
 template <ThresholdRule kRule, class D>
 HWY_INLINE hn::Vec<D> ApplyThreshold(const ThresholdConstants<D>& k, int c,
                                      hn::Vec<D> x) {
+  constexpr bool kFloat = hwy::IsFloat<hn::TFromD<D>>();
   if constexpr (kRule == ThresholdRule::kLess) {
-    return hn::IfThenElse(hn::Gt(x, k.t[c]), x, k.t[c]);
+    return kFloat ? hn::IfThenElse(hn::Gt(x, k.t[c]), x, k.t[c])
+                  : hn::Max(x, k.t[c]);
   } else if constexpr (kRule == ThresholdRule::kGreater) {
-    return hn::IfThenElse(hn::Lt(x, k.t[c]), x, k.t[c]);
+    return kFloat ? hn::IfThenElse(hn::Lt(x, k.t[c]), x, k.t[c])
+                  : hn::Min(x, k.t[c]);
   } else if constexpr (kRule == ThresholdRule::kLessVal) {
     return hn::IfThenElse(LessEq(k.t[c], x), x, k.v[c]);
   } else if constexpr (kRule == ThresholdRule::kGreaterVal) {
@@ -214,57 +257,66 @@ HWY_INLINE hn::Vec<D> ApplyThreshold(const ThresholdConstants<D>& k, int c,
   }
 }
 
-template <typename T, int kChannels, ThresholdRule kRule>
+// kKeepAlpha is AC4: three channels are thresholded and the alpha of dst is
+// put back before whole pixels are stored.
+template <typename T, int kChannels, bool kKeepAlpha, ThresholdRule kRule>
 void ThresholdRowsWith(const ThresholdJob& job) {
   const hn::ScalableTag<T> d;
   const size_t lanes = hn::Lanes(d);
-  const bool keepAlpha = job.layout.keepAlpha;
   const ThresholdConstants<decltype(d)> constants(d, job);
-  // AC4 stores whole pixels, putting back the alpha read from dst first.
-  const auto group = [&](const T* src, const T* oldDst, T* out) {
+  const auto group = [&](const T* src, const T* oldDst, T* out,
+                         auto streamed) {
     Channels<decltype(d)> v, old;
     LoadPixels<kChannels>(d, src, v);
-    for (int c = 0; c < (keepAlpha ? 3 : kChannels); ++c)
-      v[c] = ApplyThreshold<kRule>(constants, c, v[c]);
-    if constexpr (kChannels == 4) {
-      if (keepAlpha) {
-        LoadPixels<kChannels>(d, oldDst, old);
-        v[3] = old[3];
-      }
+    ForEachChannel<kKeepAlpha ? 3 : kChannels>(
+        [&](auto c) { v[c] = ApplyThreshold<kRule>(constants, c, v[c]); });
+    if constexpr (kKeepAlpha) {
+      LoadPixels<kChannels>(d, oldDst, old);
+      v[3] = old[3];
     }
-    StorePixels<kChannels>(d, v, out);
+    StorePixels<kChannels>(d, v, out, streamed);
   };
   const size_t width = job.width;
+  const bool stream = kChannels == 1 && width * 2 * sizeof(T) * job.height >=
+                                            kStreamingBytes;
   for (int y = 0; y < job.height; ++y) {
     const T* src = RowAt(static_cast<const T*>(job.src), job.srcStep, y);
     T* out = RowAt(static_cast<T*>(job.dst), job.dstStep, y);
-    size_t x = 0;
-    for (; x + lanes <= width; x += lanes) {
-      group(src + x * kChannels, out + x * kChannels, out + x * kChannels);
-    }
-    if (x < width) {
-      const size_t count = (width - x) * kChannels;
-      const PaddedGroup<T> part(src + x * kChannels, count);
-      PaddedGroup<T> partOut(out + x * kChannels, keepAlpha ? count : 0);
-      group(part.samples, partOut.samples, partOut.samples);
-      std::memcpy(out + x * kChannels, partOut.samples, count * sizeof(T));
-    }
+    CoverRow(
+        out, lanes, width, stream,
+        [&](size_t x, auto streamed) {
+          const size_t i = x * kChannels;
+          group(src + i, out + i, out + i, streamed);
+        },
+        [&](size_t x, size_t pixels) {
+          const size_t i = x * kChannels, count = pixels * kChannels;
+          const PaddedGroup<T> part(src + i, count);
+          PaddedGroup<T> partOut(out + i, kKeepAlpha ? count : 0);
+          group(part.samples, partOut.samples, partOut.samples,
+                std::false_type{});
+          std::memcpy(out + i, partOut.samples, count * sizeof(T));
+        });
   }
+  hwy::FlushStream();
 }
 
-template <typename T, int kChannels>
+template <typename T, int kChannels, bool kKeepAlpha>
 void ThresholdRowsOf(const ThresholdJob& job) {
   switch (job.rule) {
     case ThresholdRule::kLess:
-      return ThresholdRowsWith<T, kChannels, ThresholdRule::kLess>(job);
+      return ThresholdRowsWith<T, kChannels, kKeepAlpha, ThresholdRule::kLess>(
+          job);
     case ThresholdRule::kGreater:
-      return ThresholdRowsWith<T, kChannels, ThresholdRule::kGreater>(job);
+      return ThresholdRowsWith<T, kChannels, kKeepAlpha,
+                               ThresholdRule::kGreater>(job);
     case ThresholdRule::kLessVal:
-      return ThresholdRowsWith<T, kChannels, ThresholdRule::kLessVal>(job);
+      return ThresholdRowsWith<T, kChannels, kKeepAlpha,
+                               ThresholdRule::kLessVal>(job);
     case ThresholdRule::kGreaterVal:
-      return ThresholdRowsWith<T, kChannels, ThresholdRule::kGreaterVal>(job);
+      return ThresholdRowsWith<T, kChannels, kKeepAlpha,
+                               ThresholdRule::kGreaterVal>(job);
     case ThresholdRule::kLessGreaterVal:
-      return ThresholdRowsWith<T, kChannels,
+      return ThresholdRowsWith<T, kChannels, kKeepAlpha,
                                ThresholdRule::kLessGreaterVal>(job);
   }
 }
@@ -272,9 +324,11 @@ void ThresholdRowsOf(const ThresholdJob& job) {
 template <typename T>
 void ThresholdRows(const ThresholdJob& job) {
   switch (job.layout.channels) {
-    case 1: return ThresholdRowsOf<T, 1>(job);
-    case 3: return ThresholdRowsOf<T, 3>(job);
-    default: return ThresholdRowsOf<T, 4>(job);
+    case 1: return ThresholdRowsOf<T, 1, false>(job);
+    case 3: return ThresholdRowsOf<T, 3, false>(job);
+    default:
+      return job.layout.keepAlpha ? ThresholdRowsOf<T, 4, true>(job)
+                                  : ThresholdRowsOf<T, 4, false>(job);
   }
 }
 

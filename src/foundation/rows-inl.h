@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #include "foundation/image.h"
 #include "hwy/cache_control.h"
@@ -89,6 +90,33 @@ HWY_INLINE bool StreamingHead(const TO* out, size_t lanes, size_t n,
 // Below, the cache keeps the destination, and plain stores are faster.
 constexpr size_t kStreamingBytes = size_t{16} << 20;
 
+// Covers positions [0, n) of a row whose output `out` holds one result per
+// position, in groups of `lanes`: whole(i, streamed) for each whole group and
+// partial(i, count) for the rest. With `stream`, a partial head aligns out and
+// the groups after it get std::true_type for `streamed`, to store past the
+// cache.
+template <typename TO, class Whole, class Partial>
+HWY_INLINE void CoverRow(TO* out, size_t lanes, size_t n, bool stream,
+                         const Whole& whole, const Partial& partial) {
+  size_t i = 0;
+  if (stream && StreamingHead(out, lanes, n, i)) {
+    if (i != 0) partial(0, i);
+    for (; i + lanes <= n; i += lanes) whole(i, std::true_type{});
+  }
+  for (; i + lanes <= n; i += lanes) whole(i, std::false_type{});
+  if (i < n) partial(i, n - i);
+}
+
+// The store of a whole group that CoverRow handed `streamed`.
+template <class Streamed, class V, class D, typename T>
+HWY_INLINE void StoreGroup(Streamed, V v, D d, T* p) {
+  if constexpr (Streamed::value) {
+    hn::Stream(v, d, p);
+  } else {
+    hn::StoreU(v, d, p);
+  }
+}
+
 // Applies `rule` to n samples of a and b into out.
 template <bool kKeepAlpha, bool kStream, class Rule, typename TA, typename TB,
           typename TO>
@@ -98,21 +126,17 @@ HWY_INLINE void ApplyRowImpl(const Rule& shared, const TA* a, const TB* b,
   // then stay in registers for the whole row.
   const Rule rule = shared;
   const auto d = rule.d;
-  const size_t lanes = hn::Lanes(d);
-  size_t i = 0;
-  if constexpr (kStream) {
-    if (StreamingHead(out, lanes, n, i)) {
-      if (i != 0) ApplyPartial<false>(rule, a, b, out, i);
-      for (; i + lanes <= n; i += lanes) hn::Stream(rule(a + i, b + i), d, out + i);
-    }
-  }
   const auto alpha = AlphaLanes(d);
-  for (; i + lanes <= n; i += lanes) {
-    auto v = rule(a + i, b + i);
-    if (kKeepAlpha) v = hn::IfThenElse(alpha, hn::LoadU(d, out + i), v);
-    hn::StoreU(v, d, out + i);
-  }
-  if (i < n) ApplyPartial<kKeepAlpha>(rule, a + i, b + i, out + i, n - i);
+  CoverRow(
+      out, hn::Lanes(d), n, kStream,
+      [&](size_t i, auto streamed) {
+        auto v = rule(a + i, b + i);
+        if (kKeepAlpha) v = hn::IfThenElse(alpha, hn::LoadU(d, out + i), v);
+        StoreGroup(streamed, v, d, out + i);
+      },
+      [&](size_t i, size_t count) {
+        ApplyPartial<kKeepAlpha>(rule, a + i, b + i, out + i, count);
+      });
 }
 
 template <class Rule, typename TA, typename TB, typename TO>
