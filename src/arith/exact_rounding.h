@@ -6,22 +6,12 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 #include <limits>
+
+#include "foundation/image.h"
 
 namespace vok {
 
-// Samples of any alignment, as the caller's steps allow.
-template <typename T>
-inline T LoadSample(const T* p) {
-  T value;
-  std::memcpy(&value, p, sizeof(T));
-  return value;
-}
-template <typename T>
-inline void StoreSample(T* p, T value) {
-  std::memcpy(p, &value, sizeof(T));
-}
 
 // x times 2^-s, to nearest with ties to even, saturated to P: exact for any
 // x that leaves W two bits of room.

@@ -185,17 +185,6 @@ struct Samples<float> {
 
 // ---- Sides -----------------------------------------------------------------
 
-// One sample at an address of any alignment.
-template <typename T>
-HWY_INLINE std::remove_const_t<T> LoadSample(T* p) {
-  std::remove_const_t<T> v;
-  std::memcpy(&v, p, sizeof(v));
-  return v;
-}
-template <typename T>
-HWY_INLINE void StoreSample(T* p, T v) {
-  std::memcpy(p, &v, sizeof(v));
-}
 // A side is one row of one layout: Load and Store move a group of pixels as
 // three channel vectors, Get and Put one pixel as three scalars. Sources
 // have a const T.

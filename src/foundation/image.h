@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 #include "vok.h"
@@ -15,6 +16,18 @@ inline T* RowAt(T* first, ptrdiff_t step, int64_t y) {
   using Byte = typename std::conditional<std::is_const<T>::value,
                                          const uint8_t, uint8_t>::type;
   return reinterpret_cast<T*>(reinterpret_cast<Byte*>(first) + y * step);
+}
+
+// One sample at an address of any alignment, as the caller's steps allow.
+template <typename T>
+inline std::remove_const_t<T> LoadSample(T* p) {
+  std::remove_const_t<T> value;
+  std::memcpy(&value, p, sizeof(value));
+  return value;
+}
+template <typename T>
+inline void StoreSample(T* p, T value) {
+  std::memcpy(p, &value, sizeof(value));
 }
 
 // How samples are grouped into pixels: the channel count, and whether the

@@ -40,18 +40,6 @@ T* DstRow(const ResizePlane& p, int y) {
   return RowAt(static_cast<T*>(p.dst), p.dstStep, y);
 }
 
-// Samples of the caller's images need no alignment, so single samples move
-// through memcpy.
-template <typename T>
-HWY_INLINE T LoadSample(const T* p) {
-  T v;
-  std::memcpy(&v, p, sizeof(T));
-  return v;
-}
-template <typename T>
-HWY_INLINE void StoreSample(T* p, T v) {
-  std::memcpy(p, &v, sizeof(T));
-}
 
 // How a destination row is written: AC4 alpha keeps its value, and large
 // destinations go past the cache, where reading them in first would only

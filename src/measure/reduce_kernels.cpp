@@ -326,12 +326,6 @@ void FastNormRows(const ReduceRows& rows, double sums[4]) {
 
 // ---- Extrema -----------------------------------------------------------
 
-template <typename T>
-T LoadSample(const T* p) {
-  T value;
-  std::memcpy(&value, p, sizeof(T));
-  return value;
-}
 
 // Runs visit(k, v) over a row of n samples in chunks of three vectors, k
 // being the vector's place in the chunk. Chunks hold whole pixels, so a
