@@ -356,28 +356,26 @@ void Convert32s32fRow(const Vok32s* src, Vok32f* dst, size_t n) {
                        });
 }
 
-void Convert32f8uRow(const Vok32f* src, Vok8u* dst, size_t n, FromFloat how) {
+// Float to a narrower integer: rounded, clamped to T's range (NaN to its top).
+template <typename T>
+void NarrowFromFloatRow(const Vok32f* src, T* dst, size_t n, FromFloat how) {
   const DF d;
+  constexpr float kLo = float(hwy::LowestValue<T>()), kHi = float(hwy::HighestValue<T>());
   ElementLoop<1, 0, 1>(hn::Lanes(d), src, src, dst, n,
-                       [d, how](const float* s, const float*, Vok8u* out) {
+                       [d, how](const float* s, const float*, T* out) {
                          const hn::Rebind<int32_t, DF> di;
-                         const hn::Rebind<uint8_t, DF> d8;
-                         const VF v = RoundedAndClamped(d, hn::LoadU(d, s), how,
-                                                        0.0f, 255.0f, 255.0f);
-                         hn::StoreU(SaturatingNarrow(d8, hn::ConvertTo(di, v)), d8, out);
+                         const hn::Rebind<T, DF> dn;
+                         const VF v = RoundedAndClamped(d, hn::LoadU(d, s), how, kLo, kHi, kHi);
+                         hn::StoreU(SaturatingNarrow(dn, hn::ConvertTo(di, v)), dn, out);
                        });
 }
 
+void Convert32f8uRow(const Vok32f* src, Vok8u* dst, size_t n, FromFloat how) {
+  NarrowFromFloatRow(src, dst, n, how);
+}
+
 void Convert32f16sRow(const Vok32f* src, Vok16s* dst, size_t n, FromFloat how) {
-  const DF d;
-  ElementLoop<1, 0, 1>(hn::Lanes(d), src, src, dst, n,
-                       [d, how](const float* s, const float*, Vok16s* out) {
-                         const hn::Rebind<int32_t, DF> di;
-                         const hn::Rebind<int16_t, DF> d16;
-                         const VF v = RoundedAndClamped(d, hn::LoadU(d, s), how,
-                                                        -32768.0f, 32767.0f, 32767.0f);
-                         hn::StoreU(hn::DemoteTo(d16, hn::ConvertTo(di, v)), d16, out);
-                       });
+  NarrowFromFloatRow(src, dst, n, how);
 }
 
 // The conversion itself saturates: 2^31 and above, +infinity and positive
