@@ -75,29 +75,88 @@ struct NarrowRule {
   }
 };
 
-// Two vectors of wide lanes into one of lanes half as wide, saturating.
-template <class DN, class V>
-HWY_INLINE hn::Vec<DN> NarrowPair(DN dn, V lo, V hi) {
-  const hn::Half<DN> dh;
-  return hn::Combine(dn, hn::DemoteTo(dh, hi), hn::DemoteTo(dh, lo));
+// Highway's conversion in the rounding mode repairs overflow, and its
+// narrowings keep lane order with a shuffle across blocks for every vector.
+// The rules below hold values and NaN to the target's top before they round,
+// so the bare conversion serves (an overflow below gives INT32_MIN), and
+// saturating packs within 128-bit blocks narrow, with one shuffle of whole
+// chunks at the end to put the lanes back in order.
+template <class V>
+HWY_INLINE auto RoundInMode(V v) {
+  using VI = hn::Vec<hn::RebindToSigned<hn::DFromV<V>>>;
+  if constexpr (sizeof(v.raw) == 16) return VI{_mm_cvtps_epi32(v.raw)};
+#if HWY_TARGET <= HWY_AVX2
+  if constexpr (sizeof(v.raw) == 32) return VI{_mm256_cvtps_epi32(v.raw)};
+#endif
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (sizeof(v.raw) == 64) return VI{_mm512_cvtps_epi32(v.raw)};
+#endif
 }
 
-// The low halves of the lanes of two vectors, in order: lo's, then hi's.
-template <class DN, class V>
-HWY_INLINE hn::Vec<DN> LowHalves(DN dn, V lo, V hi) {
-  return hn::ConcatEven(dn, hn::BitCast(dn, hi), hn::BitCast(dn, lo));
+#define VOK_PACK_BLOCKS(pack)                                                  \
+  if constexpr (sizeof(lo.raw) == 16) return VN{_mm_##pack(lo.raw, hi.raw)};   \
+  VOK_PACK_256(pack) VOK_PACK_512(pack)
+#if HWY_TARGET <= HWY_AVX2
+#define VOK_PACK_256(pack) \
+  if constexpr (sizeof(lo.raw) == 32) return VN{_mm256_##pack(lo.raw, hi.raw)};
+#else
+#define VOK_PACK_256(pack)
+#endif
+#if HWY_TARGET <= HWY_AVX3
+#define VOK_PACK_512(pack) \
+  if constexpr (sizeof(lo.raw) == 64) return VN{_mm512_##pack(lo.raw, hi.raw)};
+#else
+#define VOK_PACK_512(pack)
+#endif
+
+// The lanes of lo and hi narrowed to TN with saturation, each 128-bit block
+// holding lo's lanes of that block, then hi's.
+template <typename TN, class V>
+HWY_INLINE auto PackBlocks(V lo, V hi) {
+  using VN = hn::Vec<hn::Repartition<TN, hn::DFromV<V>>>;
+  using TW = hn::TFromV<V>;
+  static_assert(sizeof(TW) == 2 * sizeof(TN) && std::is_signed_v<TW>);
+  if constexpr (std::is_same_v<TN, int16_t>) {
+    VOK_PACK_BLOCKS(packs_epi32)
+  } else if constexpr (std::is_same_v<TN, uint16_t>) {
+    VOK_PACK_BLOCKS(packus_epi32)
+  } else if constexpr (std::is_same_v<TN, int8_t>) {
+    VOK_PACK_BLOCKS(packs_epi16)
+  } else {
+    VOK_PACK_BLOCKS(packus_epi16)
+  }
+}
+#undef VOK_PACK_BLOCKS
+#undef VOK_PACK_256
+#undef VOK_PACK_512
+
+// Block b of a pack of kVectors vectors holds chunk b of each vector in turn;
+// the result takes every vector's chunks in order.
+template <size_t kVectors, class D, class V>
+HWY_INLINE hn::Vec<D> InLaneOrder(D d, V packed) {
+  using TC = hwy::UnsignedFromSize<16 / kVectors>;
+  const hn::Repartition<TC, D> dc;
+  constexpr size_t kBlocks = hn::MaxLanes(dc) / kVectors;
+  if constexpr (kBlocks == 1) {
+    return hn::BitCast(d, packed);
+  } else {
+    const hn::RebindToSigned<decltype(dc)> di;
+    const auto j = hn::Iota(di, 0);
+    const auto from =
+        hn::Add(hn::ShiftRight<hwy::CeilLog2(kBlocks)>(j),
+                hn::ShiftLeft<hwy::CeilLog2(kVectors)>(
+                    hn::And(j, hn::Set(di, kBlocks - 1))));
+    return hn::BitCast(
+        d, hn::TableLookupLanes(hn::BitCast(dc, packed),
+                                hn::IndicesFromVec(dc, from)));
+  }
 }
 
 // Float samples to 8- or 16-bit results a whole vector at a time, from two or
-// four vectors of floats. `range.Upper` maps x to a value y already held to
-// the result's upper bound, NaN included; the result is y raised to
-// `range.lower` and rounded in the thread's rounding mode, which the entry
-// has set. Unsigned targets round by adding 1.5 * 2^23, which leaves the
-// integer in the low bits of the sum's pattern for y within 2^22 of zero;
-// raising the pattern as a signed integer to the one of lower + 1.5 * 2^23
-// then raises every smaller sum, negative ones and -infinity included, and
-// makes the rounding of a negative y irrelevant. Signed targets raise y to
-// the lower bound and convert in the mode.
+// four vectors of floats. `range.Upper` maps x to a value already held to
+// the result's upper bound, NaN included; it is rounded in the thread's
+// rounding mode, which the entry has set, and the packs saturate whatever
+// lies below the lower bound.
 template <typename TD, class Range>
 struct FromFloatRule {
   hn::ScalableTag<TD> d;
@@ -105,36 +164,15 @@ struct FromFloatRule {
   HWY_INLINE auto operator()(const float* a, const float*) const {
     const hn::ScalableTag<float> df;
     const size_t n = hn::Lanes(df);
-    const auto upper = [&](size_t k) {
-      return range.Upper(df, hn::LoadU(df, a + k * n));
+    const auto rounded = [&](size_t k) {
+      return RoundInMode(range.Upper(df, hn::LoadU(df, a + k * n)));
     };
-    if constexpr (std::is_unsigned_v<TD>) {
-      const hn::RebindToSigned<decltype(df)> di;
-      const hn::Repartition<uint16_t, decltype(df)> d16;
-      const auto offset = hn::Set(df, 0x1.8p23f);
-      const auto lowest = hn::BitCast(di, hn::Add(hn::Set(df, range.lower), offset));
-      const auto part = [&](size_t k) {
-        return hn::Max(hn::BitCast(di, hn::Add(upper(k), offset)), lowest);
-      };
-      const auto words = [&](size_t k) {
-        return LowHalves(d16, part(k), part(k + 1));
-      };
-      if constexpr (sizeof(TD) == 2) {
-        return words(0);
-      } else {
-        return LowHalves(d, words(0), words(2));
-      }
+    if constexpr (sizeof(TD) == 2) {
+      return InLaneOrder<2>(d, PackBlocks<TD>(rounded(0), rounded(1)));
     } else {
-      const auto part = [&](size_t k) {
-        return hn::NearestInt(hn::Max(upper(k), hn::Set(df, range.lower)));
-      };
-      if constexpr (sizeof(TD) == 2) {
-        return NarrowPair(d, part(0), part(1));
-      } else {
-        const hn::Repartition<int16_t, decltype(df)> d16;
-        return NarrowPair(d, NarrowPair(d16, part(0), part(1)),
-                          NarrowPair(d16, part(2), part(3)));
-      }
+      return InLaneOrder<4>(
+          d, PackBlocks<TD>(PackBlocks<int16_t>(rounded(0), rounded(1)),
+                            PackBlocks<int16_t>(rounded(2), rounded(3))));
     }
   }
 };
@@ -143,7 +181,6 @@ struct FromFloatRule {
 // where x is NaN, so NaN gives the top.
 template <typename TD>
 struct TargetRange {
-  float lower = static_cast<float>(hwy::LowestValue<TD>());
   template <class DF, class V>
   HWY_INLINE V Upper(DF df, V x) const {
     return hn::Min(x, hn::Set(df, static_cast<float>(hwy::HighestValue<TD>())));
@@ -152,10 +189,11 @@ struct TargetRange {
 
 // Scale with a finite k > 0 and a finite b. x * k + b, each step rounded,
 // never falls as x grows, so clamping x to [vMin, vMax] first is clamping
-// the result to its values there, with NaN taking the top as above. Those
-// bounds are held to [0, 255], which after rounding is the saturation.
+// the result to its values there, with NaN taking the top as above. At vMin
+// it is exactly 0, as b is -(k * vMin), so the packs' saturation is the
+// lower clamp; the upper one is the value at vMax, held to 255.
 struct ScaledRange {
-  float k, b, lower, upper;
+  float k, b, upper;
   template <class DF, class V>
   HWY_INLINE V Upper(DF df, V x) const {
     return hn::Min(hn::Add(hn::Mul(x, hn::Set(df, k)), hn::Set(df, b)),
@@ -168,7 +206,6 @@ struct ScaledRange {
 // infinity times 0 gives becomes 0.
 struct DegenerateScaledRange {
   float vMin, vMax, k, b;
-  float lower = 0.0f;
   template <class DF, class V>
   HWY_INLINE V Upper(DF df, V x) const {
     const auto clamped = hn::Max(hn::Min(x, hn::Set(df, vMax)), hn::Set(df, vMin));
@@ -280,11 +317,9 @@ void ConvertRows(const ConvertJob& job) {
           return Apply<TS, TD>(job, FromFloatRule<TD, DegenerateScaledRange>{
                                         {}, {job.vMin, job.vMax, k, b}});
         }
-        const float atMin = job.vMin * k + b, atMax = job.vMax * k + b;
-        return Apply<TS, TD>(
-            job, FromFloatRule<TD, ScaledRange>{
-                     {}, {k, b, std::clamp(atMin, 0.0f, 255.0f),
-                          std::clamp(atMax, 0.0f, 255.0f)}});
+        const float atMax = job.vMax * k + b;
+        return Apply<TS, TD>(job, FromFloatRule<TD, ScaledRange>{
+                                      {}, {k, b, std::min(atMax, 255.0f)}});
       }
     }
     Apply<TS, TD>(job, FromFloatRule<TD, TargetRange<TD>>{});
