@@ -138,11 +138,17 @@ void CompareRowsWith(const CompareJob& job, const Test& test) {
         [&](auto c) { all = hn::And(all, test(va[c + 1], rhs[c + 1])); });
     return MaskBytes(d, all);
   };
-  const size_t width = job.width;
+  const size_t rowSamples = static_cast<size_t>(job.width) * kChannels;
+  const bool oneRun = Contiguous({{job.aStep, rowSamples * sizeof(T)},
+                                  {kConstant ? job.aStep : job.bStep,
+                                   rowSamples * sizeof(T)},
+                                  {job.dstStep, static_cast<size_t>(job.width)}});
+  const size_t width = oneRun ? static_cast<size_t>(job.width) * job.height : job.width;
+  const int height = oneRun ? 1 : job.height;
   const size_t rowBytes =
       width * (kChannels * sizeof(T) * (kConstant ? 1 : 2) + 1);
-  const bool stream = rowBytes * job.height >= kStreamingBytes;
-  for (int y = 0; y < job.height; ++y) {
+  const bool stream = rowBytes * height >= kStreamingBytes;
+  for (int y = 0; y < height; ++y) {
     const T* a = RowAt(static_cast<const T*>(job.a), job.aStep, y);
     // With a constant, b is a stand-in that the group never reads.
     const T* b = kConstant ? a : RowAt(static_cast<const T*>(job.b), job.bStep, y);
@@ -276,10 +282,14 @@ void ThresholdRowsWith(const ThresholdJob& job) {
     }
     StorePixels<kChannels>(d, v, out, streamed);
   };
-  const size_t width = job.width;
-  const bool stream = kChannels == 1 && width * 2 * sizeof(T) * job.height >=
-                                            kStreamingBytes;
-  for (int y = 0; y < job.height; ++y) {
+  const size_t rowBytes = static_cast<size_t>(job.width) * kChannels * sizeof(T);
+  const bool oneRun =
+      Contiguous({{job.srcStep, rowBytes}, {job.dstStep, rowBytes}});
+  const size_t width = oneRun ? static_cast<size_t>(job.width) * job.height : job.width;
+  const int height = oneRun ? 1 : job.height;
+  const bool stream =
+      kChannels == 1 && width * 2 * sizeof(T) * height >= kStreamingBytes;
+  for (int y = 0; y < height; ++y) {
     const T* src = RowAt(static_cast<const T*>(job.src), job.srcStep, y);
     T* out = RowAt(static_cast<T*>(job.dst), job.dstStep, y);
     CoverRow(

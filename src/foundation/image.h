@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <initializer_list>
 #include <type_traits>
 
 #include "vok.h"
@@ -28,6 +29,20 @@ inline std::remove_const_t<T> LoadSample(T* p) {
 template <typename T>
 inline void StoreSample(T* p, T value) {
   std::memcpy(p, &value, sizeof(value));
+}
+
+// A row of `bytes` bytes in an image of row step `step`.
+struct RowShape {
+  ptrdiff_t step;
+  size_t bytes;
+};
+
+// True when the rows of every image follow each other without a gap, so that
+// a call can run as one long row: one set-up and one partial group in all.
+inline bool Contiguous(std::initializer_list<RowShape> images) {
+  for (const RowShape& image : images)
+    if (image.step != static_cast<ptrdiff_t>(image.bytes)) return false;
+  return true;
 }
 
 // How samples are grouped into pixels: the channel count, and whether the

@@ -168,14 +168,9 @@ HWY_NOINLINE void ApplyRows(const ElementRows& rows, int y0, int y1,
       n * (sizeof(T) + (secondImage ? sizeof(T) : 0) + sizeof(TO));
   const bool stream = rowBytes * rows.height >= kStreamingBytes;
   if (rows.constant == nullptr) {
-    // Rows that follow each other without a gap in every image run as one,
-    // which saves the set-up and the partial group of each row.
-    const auto packed = [&](ptrdiff_t step, size_t sampleSize) {
-      return step == static_cast<ptrdiff_t>(n * sampleSize);
-    };
-    const bool oneRun = packed(rows.aStep, sizeof(T)) &&
-                        packed(rows.bStep, sizeof(T)) &&
-                        packed(rows.dstStep, sizeof(TO));
+    const bool oneRun = Contiguous({{rows.aStep, n * sizeof(T)},
+                                    {rows.bStep, n * sizeof(T)},
+                                    {rows.dstStep, n * sizeof(TO)}});
     const int yEnd = oneRun ? y0 + 1 : y1;
     const size_t runSamples = oneRun ? n * static_cast<size_t>(y1 - y0) : n;
     for (int y = y0; y < yEnd; ++y) {
