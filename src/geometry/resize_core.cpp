@@ -7,7 +7,6 @@
 
 #include "foundation/check.h"
 #include "foundation/memory.h"
-#include "foundation/parallel.h"
 #include "geometry/resize.h"
 
 namespace vok {
@@ -428,30 +427,21 @@ ResizeKind FallBack(ResizeKind kind, VokiSize image) {
   return kind;
 }
 
-// Runs every plane over the destination rows: on the calling thread for small
-// images, else in slabs with one scratch slice per thread, all allocated
-// before any row is written.
+// Runs every plane over the destination rows on the calling thread. Resize
+// is single-threaded, so callers that spread images over threads of their
+// own get no second level of them.
 template <typename T>
 VokStatus RunRows(const ResizeTables& tables, const ResizeRequest& request,
                   const uint8_t* const* srcOrigins) {
-  const int height = tables.y.count;
   const size_t bytes = ResizeScratchBytes(tables, request.channels, sizeof(T));
-  auto rows = [&](int y0, int y1, uint8_t* scratch) {
-    for (int p = 0; p < request.planes; ++p) {
-      const ResizePlane plane{srcOrigins[p], request.srcStep, request.dst[p],
-                              request.dstStep, request.channels,
-                              request.keepAlpha};
-      ResizeRows<T>(tables, plane, y0, y1, scratch);
-    }
-  };
-  // Nearest only copies samples, a few per clock, and gains from a second
-  // thread only where the destination is large.
-  const int64_t samples = int64_t{tables.x.count} * height * request.channels;
-  const int64_t cutOver = int64_t{1} << (tables.kind == ResizeKind::kNearest ? 22 : 16);
-  if (samples >= cutOver) return SlabsWithScratchBefore(height, bytes, rows);
   Scratch<uint8_t> scratch = AllocateScratch<uint8_t>(bytes);
   if (bytes > 0 && !scratch) return vokStatusNoMemory;
-  rows(0, height, scratch.get());
+  for (int p = 0; p < request.planes; ++p) {
+    const ResizePlane plane{srcOrigins[p], request.srcStep, request.dst[p],
+                            request.dstStep, request.channels,
+                            request.keepAlpha};
+    ResizeRows<T>(tables, plane, 0, tables.y.count, scratch.get());
+  }
   return vokStatusOk;
 }
 

@@ -409,33 +409,6 @@ TEST(Resize, MatchesModel8u) { CompareAll<Vok8u>(); }
 TEST(Resize, MatchesModel16u) { CompareAll<Vok16u>(); }
 TEST(Resize, MatchesModel32f) { CompareAll<Vok32f>(); }
 
-}  // namespace
-
-namespace {
-
-// Bands of rows on several threads give the bytes of one thread.
-TEST(Resize, ThreadsDoNotChangeResults) {
-  std::mt19937 rng(3);
-  for (int kind : {kNearest, kLinear, kCubic, kLanczos, kSuper}) {
-    const Form<Vok8u> form = Forms<Vok8u>()[1];  // C3
-    const double f = kind == kSuper ? 0.45 : 1.7;
-    Images<Vok8u> images(form, {300, 200}, {520, 350}, rng);
-    std::vector<Image<Vok8u>> single = images.dst;
-    std::vector<Vok8u*> singlePtr{single[0].data()};
-    {
-      vok_test::ThreadCount threads(1);
-      ASSERT_EQ(form.resize(images.srcPtr.data(), {300, 200}, images.src[0].step(),
-                            {0, 0, 300, 200}, singlePtr.data(), single[0].step(),
-                            {520, 350}, f, f, 0, 0, kind), vokStatusOk);
-    }
-    vok_test::ThreadCount threads(4);
-    ASSERT_EQ(form.resize(images.srcPtr.data(), {300, 200}, images.src[0].step(),
-                          {0, 0, 300, 200}, images.dstPtr.data(), images.dst[0].step(),
-                          {520, 350}, f, f, 0, 0, kind), vokStatusOk);
-    EXPECT_EQ(images.dst[0].firstDifference(single[0]), "") << kind;
-  }
-}
-
 // Destinations of 8 MB and more are written past the cache, starting with
 // single samples up to the first vector boundary.
 TEST(Resize, LargeDestinationsMatchModel) {
