@@ -218,23 +218,32 @@ struct ScaledDoubleRule {
 };
 
 // dividend / divisor in single precision. A divisor of either zero gives
-// infinity of the dividend's sign, or NaN for a dividend of 0 or NaN.
+// infinity of the dividend's sign, or NaN for a dividend of 0 or NaN; such
+// divisors are rare, so vectors without one take the quotient alone.
 struct FloatDivRule {
   hn::ScalableTag<float> d;
   HWY_INLINE auto operator()(const float* divisor, const float* dividend,
                              size_t valid, VokStatus& warning) const {
-    const hn::RebindToSigned<decltype(d)> di;
     const auto b = hn::LoadU(d, divisor);
     const auto a = hn::LoadU(d, dividend);
-    const auto zero = hn::Zero(d);
-    const auto byZero = hn::Eq(b, zero);
+    const auto quotient = hn::Div(a, b);
+    const auto byZero = hn::Eq(b, hn::Zero(d));
+    if (HWY_LIKELY(hn::AllFalse(d, byZero))) return quotient;
+    return ByZero(a, byZero, quotient, valid, warning);
+  }
+
+  template <class V, class M>
+  HWY_NOINLINE V ByZero(V a, M byZero, V quotient, size_t valid,
+                        VokStatus& warning) const {
+    const hn::RebindToSigned<decltype(d)> di;
     NoteWarning(d, byZero, valid, vokWarnDivideByZero, warning);
+    const auto zero = hn::Zero(d);
     const auto infinity = hn::Set(d, HUGE_VALF);
     const auto limit = hn::IfThenElse(
         hn::Gt(a, zero), infinity,
         hn::IfThenElse(hn::Lt(a, zero), hn::Neg(infinity),
                        hn::BitCast(d, hn::Set(di, 0x7FC00000))));
-    return hn::IfThenElse(byZero, limit, hn::Div(a, b));
+    return hn::IfThenElse(byZero, limit, quotient);
   }
 };
 
@@ -311,11 +320,17 @@ struct IntDivRule {
       }
     };
     const auto a = words(dividend), b = words(divisor);
-    NoteWarning(d16, hn::Eq(b, hn::Zero(d16)), valid, vokWarnDivideByZero, warning);
+    const auto byZero = hn::Eq(b, hn::Zero(d16));
+    // Zero divisors are rare: vectors without one skip their repair.
+    const bool anyByZero = !hn::AllFalse(d16, byZero);
+    if (HWY_UNLIKELY(anyByZero)) {
+      NoteWarning(d16, byZero, valid, vokWarnDivideByZero, warning);
+    }
     // a * 2^15 lies beyond the sample range for every non-zero a.
     const auto quotients = [&](auto a32, auto b32) {
-      return hn::IfThenElse(hn::Eq(b32, hn::Zero(d32)), hn::ShiftLeft<15>(a32),
-                            quotient(a32, b32));
+      const auto q = quotient(a32, b32);
+      if (HWY_LIKELY(!anyByZero)) return q;
+      return hn::IfThenElse(hn::Eq(b32, hn::Zero(d32)), hn::ShiftLeft<15>(a32), q);
     };
     const auto result = hn::ReorderDemote2To(
         d16, quotients(LowerWordsOfBlocks(d32, a), LowerWordsOfBlocks(d32, b)),
@@ -391,12 +406,19 @@ void CopyKeepingAlpha(const T* from, T* to, size_t n) {
 template <typename T, class Rule>
 VokStatus RunRows(const ElementaryJob& job, const Rule& rule) {
   VokStatus warning = vokStatusOk;
-  const size_t n = job.rowSamples;
   T* scratch = static_cast<T*>(job.alphaRow);
+  const size_t rowBytes = job.rowSamples * sizeof(T);
+  const bool oneRun =
+      scratch == nullptr &&
+      Contiguous({{job.aStep, rowBytes},
+                  {job.b != nullptr ? job.bStep : job.aStep, rowBytes},
+                  {job.dstStep, rowBytes}});
+  const int height = oneRun ? 1 : job.height;
+  const size_t n = oneRun ? job.rowSamples * job.height : job.rowSamples;
   const size_t images = job.b != nullptr ? 3 : 2;
   const bool stream = scratch == nullptr &&
-                      n * sizeof(T) * images * job.height >= kStreamingBytes;
-  for (int y = 0; y < job.height; ++y) {
+                      n * sizeof(T) * images * height >= kStreamingBytes;
+  for (int y = 0; y < height; ++y) {
     const T* a = RowAt(static_cast<const T*>(job.a), job.aStep, y);
     const T* b = job.b ? RowAt(static_cast<const T*>(job.b), job.bStep, y) : a;
     T* dst = RowAt(static_cast<T*>(job.dst), job.dstStep, y);
