@@ -12,6 +12,7 @@
 
 #include "arith/elementary.h"
 #include "data/copy.h"
+#include "foundation/rounding.h"
 #include "foundation/rows-inl.h"
 #include "hwy/contrib/math/math-inl.h"
 #include "hwy/highway.h"
@@ -249,19 +250,20 @@ struct FloatDivRule {
 
 // Integer quotients (a << aShift) / (b << bShift) in float for non-zero
 // divisors. Both shifted samples are exact in a float, so only the division
-// rounds. The quotient, within 2^21 of zero, is rounded to nearest even and
-// read from the pattern of its sum with 1.5 * 2^23, which is exact.
+// rounds. The quotient, within 2^21 of zero, is rounded to nearest even by
+// the conversion, under the mode that RunIntDiv sets. Scale 0 shifts nothing.
+template <bool kShifted>
 struct FloatQuotient {
   int aShift, bShift;
   template <class V>
   HWY_INLINE V operator()(V a, V b) const {
     const hn::DFromV<V> dw;
     const hn::Rebind<float, decltype(dw)> df;
-    const auto q = hn::Div(hn::ConvertTo(df, hn::ShiftLeftSame(a, aShift)),
-                           hn::ConvertTo(df, hn::ShiftLeftSame(b, bShift)));
-    const auto offset = hn::Set(df, 0x1.8p23f);
-    return hn::Sub(hn::BitCast(dw, hn::Add(hn::Round(q), offset)),
-                   hn::BitCast(dw, offset));
+    if constexpr (kShifted) {
+      a = hn::ShiftLeftSame(a, aShift);
+      b = hn::ShiftLeftSame(b, bShift);
+    }
+    return RoundInMode(hn::Div(hn::ConvertTo(df, a), hn::ConvertTo(df, b)));
   }
 };
 
@@ -467,7 +469,9 @@ VokStatus RunIntDiv(const ElementaryJob& job) {
   if (s <= Limits::kDoubleAtOrBelow) {
     return RunRows<T>(job, DoubleRule{{}, {std::ldexp(1.0, -s)}});
   }
-  return RunRows<T>(job, IntDivRule<T, FloatQuotient>{
+  const RoundingScope nearest(RoundingScope::kNearest);
+  if (s == 0) return RunRows<T>(job, IntDivRule<T, FloatQuotient<false>>{});
+  return RunRows<T>(job, IntDivRule<T, FloatQuotient<true>>{
                              {}, {std::max(-s, 0), std::max(s, 0)}});
 }
 

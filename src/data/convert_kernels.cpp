@@ -75,24 +75,10 @@ struct NarrowRule {
   }
 };
 
-// Highway's conversion in the rounding mode repairs overflow, and its
-// narrowings keep lane order with a shuffle across blocks for every vector.
-// The rules below hold values and NaN to the target's top before they round,
-// so the bare conversion serves (an overflow below gives INT32_MIN), and
-// saturating packs within 128-bit blocks narrow, with one shuffle of whole
-// chunks at the end to put the lanes back in order.
-template <class V>
-HWY_INLINE auto RoundInMode(V v) {
-  using VI = hn::Vec<hn::RebindToSigned<hn::DFromV<V>>>;
-  if constexpr (sizeof(v.raw) == 16) return VI{_mm_cvtps_epi32(v.raw)};
-#if HWY_TARGET <= HWY_AVX2
-  if constexpr (sizeof(v.raw) == 32) return VI{_mm256_cvtps_epi32(v.raw)};
-#endif
-#if HWY_TARGET <= HWY_AVX3
-  if constexpr (sizeof(v.raw) == 64) return VI{_mm512_cvtps_epi32(v.raw)};
-#endif
-}
-
+// Highway's narrowings keep lane order with a shuffle across blocks for every
+// vector. The rules below hold values and NaN to the target's top before
+// they round, so saturating packs within 128-bit blocks can narrow, with one
+// shuffle of whole chunks at the end to put the lanes back in order.
 #define VOK_PACK_BLOCKS(pack)                                                  \
   if constexpr (sizeof(lo.raw) == 16) return VN{_mm_##pack(lo.raw, hi.raw)};   \
   VOK_PACK_256(pack) VOK_PACK_512(pack)
@@ -155,8 +141,8 @@ HWY_INLINE hn::Vec<D> InLaneOrder(D d, V packed) {
 // Float samples to 8- or 16-bit results a whole vector at a time, from two or
 // four vectors of floats. `range.Upper` maps x to a value already held to
 // the result's upper bound, NaN included; it is rounded in the thread's
-// rounding mode, which the entry has set, and the packs saturate whatever
-// lies below the lower bound.
+// rounding mode, which the entry has set (an overflow below gives INT32_MIN),
+// and the packs saturate whatever lies below the lower bound.
 template <typename TD, class Range>
 struct FromFloatRule {
   hn::ScalableTag<TD> d;

@@ -40,6 +40,21 @@ HWY_INLINE auto SaturatingNarrow(DN dn, V wide) {
   }
 }
 
+// Float lanes rounded to int32 in the thread's rounding mode, by the bare
+// conversion: Highway's own repairs overflow, which callers that keep their
+// values in range do not need. Overflow gives INT32_MIN.
+template <class V>
+HWY_INLINE auto RoundInMode(V v) {
+  using VI = hn::Vec<hn::RebindToSigned<hn::DFromV<V>>>;
+  if constexpr (sizeof(v.raw) == 16) return VI{_mm_cvtps_epi32(v.raw)};
+#if HWY_TARGET <= HWY_AVX2
+  if constexpr (sizeof(v.raw) == 32) return VI{_mm256_cvtps_epi32(v.raw)};
+#endif
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (sizeof(v.raw) == 64) return VI{_mm512_cvtps_epi32(v.raw)};
+#endif
+}
+
 // True in the lanes that hold the fourth sample of a pixel. Vectors always
 // hold whole pixels, so one mask serves a whole row.
 template <class D>

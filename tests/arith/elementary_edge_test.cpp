@@ -1,5 +1,6 @@
 // Worked values of Div, DivC and the elementary functions, warnings that
 // leave every row finished, the constant forms, and the order of checks.
+#include <cfenv>
 #include <cmath>
 #include <cstring>
 
@@ -87,6 +88,21 @@ TEST(ElementaryRule, WorkedValues) {
   EXPECT_EQ(One<Vok8u>(vokiExp_8u_C1RSfs, 6, 0), Ok(255));
   EXPECT_EQ(One<Vok8u>(vokiExp_8u_C1RSfs, 0, 1), Ok(1));  // the one exact tie goes up
   EXPECT_EQ(One<Vok16s>(vokiExp_16s_C1RSfs, 0, 1), Ok(1));
+}
+
+// Integer division rounds ties to even whatever mode the caller has set,
+// and gives the caller's mode back.
+TEST(ElementaryRule, DivisionIgnoresTheCallersRoundingMode) {
+  std::fesetround(FE_UPWARD);
+  const Result half8u = Div<Vok8u>(vokiDiv_8u_C1RSfs, 2, 5, 0);
+  const Result half16s = Div<Vok16s>(vokiDiv_16s_C1RSfs, 2, -7, 0);
+  const Result scaled = Div<Vok16s>(vokiDiv_16s_C1RSfs, 1, 5, 1);
+  const int mode = std::fegetround();
+  std::fesetround(FE_TONEAREST);
+  EXPECT_EQ(half8u, Ok(2));
+  EXPECT_EQ(half16s, Ok(-4));
+  EXPECT_EQ(scaled, Ok(2));
+  EXPECT_EQ(mode, FE_UPWARD);
 }
 
 // A warning never stops the image: every sample after it gets its value,
