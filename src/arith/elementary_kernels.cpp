@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <type_traits>
 
 #include "arith/elementary.h"
@@ -368,31 +367,38 @@ struct ScaledProductRule {
 template <typename T, class Rule>
 HWY_INLINE void RunPartial(const Rule& rule, const T* a, const T* b, T* out,
                            size_t count, VokStatus& warning) {
-  if (count == 0) return;
-  HWY_ALIGN T partA[HWY_MAX_BYTES / sizeof(T)] = {};
-  HWY_ALIGN T partB[HWY_MAX_BYTES / sizeof(T)] = {};
+  HWY_ALIGN T partA[HWY_MAX_BYTES / sizeof(T)];
+  HWY_ALIGN T partB[HWY_MAX_BYTES / sizeof(T)];
   HWY_ALIGN T partOut[HWY_MAX_BYTES / sizeof(T)];
-  std::memcpy(partA, a, count * sizeof(T));
-  std::memcpy(partB, b, count * sizeof(T));
+  CopyIntoPadded<sizeof(partA)>(partA, a, count * sizeof(T));
+  CopyIntoPadded<sizeof(partB)>(partB, b, count * sizeof(T));
   hn::Store(rule(partA, partB, count, warning), rule.d, partOut);
-  std::memcpy(out, partOut, count * sizeof(T));
+  CopyFromPadded(out, partOut, count * sizeof(T));
 }
 
-// Applies `rule` to n samples, left to right, streaming the stores when
-// `stream` is set and the destination allows it.
+// Applies `rule` to n samples, streaming the stores when `stream` is set and
+// the destination allows it. Warnings keep row order: the overlapping last
+// group notes its own, which count only after those of the groups before it.
 template <typename T, class Rule>
 HWY_INLINE void RunRow(const Rule& rule, const T* a, const T* b, T* out,
                        size_t n, bool stream, VokStatus& warning) {
   const size_t lanes = hn::Lanes(rule.d);
-  size_t i = 0;
-  if (stream && StreamingHead(out, lanes, n, i)) {
-    RunPartial(rule, a, b, out, i, warning);
-    for (; i + lanes <= n; i += lanes)
-      hn::Stream(rule(a + i, b + i, lanes, warning), rule.d, out + i);
-  }
-  for (; i + lanes <= n; i += lanes)
-    hn::StoreU(rule(a + i, b + i, lanes, warning), rule.d, out + i);
-  RunPartial(rule, a + i, b + i, out + i, n - i, warning);
+  CoverRow(
+      out, lanes, n, stream,
+      [&](size_t i, auto streamed) {
+        StoreGroup(streamed, rule(a + i, b + i, lanes, warning), rule.d, out + i);
+      },
+      [&](size_t i) {
+        VokStatus lastWarning = vokStatusOk;
+        const auto v = rule(a + i, b + i, lanes, lastWarning);
+        return [&, v, i, lastWarning] {
+          if (warning == vokStatusOk) warning = lastWarning;
+          hn::StoreU(v, rule.d, out + i);
+        };
+      },
+      [&](size_t i, size_t count) {
+        RunPartial(rule, a + i, b + i, out + i, count, warning);
+      });
 }
 
 // The AC4 copy of one row: the first three samples of every four.

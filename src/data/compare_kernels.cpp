@@ -9,7 +9,6 @@
 #define HWY_TARGET_INCLUDE "data/compare_kernels.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 
-#include <cstring>
 #include <type_traits>
 #include <utility>
 
@@ -60,11 +59,11 @@ HWY_INLINE void StorePixels(D d, const Channels<D>& v, T* p, Streamed streamed) 
 }
 
 // Samples of a partial group, zero-padded to a whole group of pixels.
-template <typename T>
+template <typename T, int kChannels>
 struct PaddedGroup {
-  HWY_ALIGN T samples[4 * HWY_MAX_BYTES / sizeof(T)] = {};
+  HWY_ALIGN T samples[kChannels * HWY_MAX_BYTES / sizeof(T)];
   PaddedGroup(const T* p, size_t count) {
-    std::memcpy(samples, p, count * sizeof(T));
+    CopyIntoPadded<sizeof(samples)>(samples, p, count * sizeof(T));
   }
 };
 
@@ -159,15 +158,19 @@ void CompareRowsWith(const CompareJob& job, const Test& test) {
           StoreGroup(streamed, group(a + x * kChannels, b + x * kChannels), d8,
                      out + x);
         },
+        [&](size_t x) {
+          const auto mask = group(a + x * kChannels, b + x * kChannels);
+          return [&, mask, x] { hn::StoreU(mask, d8, out + x); };
+        },
         [&](size_t x, size_t pixels) {
           const size_t count = pixels * kChannels;
-          const PaddedGroup<T> partA(a + x * kChannels, count);
-          const PaddedGroup<T> partB(
+          const PaddedGroup<T, kChannels> partA(a + x * kChannels, count);
+          const PaddedGroup<T, kChannels> partB(
               kConstant ? partA.samples : b + x * kChannels,
               kConstant ? 0 : count);
           HWY_ALIGN uint8_t partOut[HWY_MAX_BYTES];
           hn::Store(group(partA.samples, partB.samples), d8, partOut);
-          std::memcpy(out + x, partOut, pixels);
+          CopyFromPadded(out + x, partOut, pixels);
         });
   }
   hwy::FlushStream();
@@ -270,16 +273,21 @@ void ThresholdRowsWith(const ThresholdJob& job) {
   const hn::ScalableTag<T> d;
   const size_t lanes = hn::Lanes(d);
   const ThresholdConstants<decltype(d)> constants(d, job);
-  const auto group = [&](const T* src, const T* oldDst, T* out,
-                         auto streamed) {
-    Channels<decltype(d)> v, old;
+  using Pixels = Channels<decltype(d)>;
+  const auto thresholded = [&](const T* src, const T* oldDst, Pixels& v) {
     LoadPixels<kChannels>(d, src, v);
     ForEachChannel<kKeepAlpha ? 3 : kChannels>(
         [&](auto c) { v[c] = ApplyThreshold<kRule>(constants, c, v[c]); });
     if constexpr (kKeepAlpha) {
+      Pixels old;
       LoadPixels<kChannels>(d, oldDst, old);
       v[3] = old[3];
     }
+  };
+  const auto group = [&](const T* src, const T* oldDst, T* out,
+                         auto streamed) {
+    Pixels v;
+    thresholded(src, oldDst, v);
     StorePixels<kChannels>(d, v, out, streamed);
   };
   const size_t rowBytes = static_cast<size_t>(job.width) * kChannels * sizeof(T);
@@ -298,13 +306,21 @@ void ThresholdRowsWith(const ThresholdJob& job) {
           const size_t i = x * kChannels;
           group(src + i, out + i, out + i, streamed);
         },
+        [&](size_t x) {
+          const size_t i = x * kChannels;
+          Pixels v;
+          thresholded(src + i, out + i, v);
+          return [&, v, i] {
+            StorePixels<kChannels>(d, v, out + i, std::false_type{});
+          };
+        },
         [&](size_t x, size_t pixels) {
           const size_t i = x * kChannels, count = pixels * kChannels;
-          const PaddedGroup<T> part(src + i, count);
-          PaddedGroup<T> partOut(out + i, kKeepAlpha ? count : 0);
+          const PaddedGroup<T, kChannels> part(src + i, count);
+          PaddedGroup<T, kChannels> partOut(out + i, kKeepAlpha ? count : 0);
           group(part.samples, partOut.samples, partOut.samples,
                 std::false_type{});
-          std::memcpy(out + i, partOut.samples, count * sizeof(T));
+          CopyFromPadded(out + i, partOut.samples, count * sizeof(T));
         });
   }
   hwy::FlushStream();

@@ -65,24 +65,69 @@ HWY_INLINE auto AlphaLanes(D d) {
   return hn::RebindMask(d, hn::Eq(lane, hn::Set(du, TU{3})));
 }
 
+// Room for `count` samples of T, rounded up to whole vectors of the widest
+// instruction set, as the buffers below need.
+template <typename T>
+constexpr size_t PaddedCount(size_t count) {
+  return (count * sizeof(T) + HWY_MAX_BYTES - 1) / HWY_MAX_BYTES * HWY_MAX_BYTES /
+         sizeof(T);
+}
+
+// The first `bytes` bytes at `from` into the aligned buffer `to` of kSize
+// bytes, zero-filling the rest. AVX-512 does it with masked moves, which
+// need no call and touch nothing past `bytes`.
+template <size_t kSize>
+HWY_INLINE void CopyIntoPadded(void* to, const void* from, size_t bytes) {
+#if HWY_TARGET <= HWY_AVX3
+  const hn::ScalableTag<uint8_t> d8;
+  constexpr size_t kVector = hn::MaxLanes(d8);
+  static_assert(kSize % kVector == 0);
+  for (size_t k = 0; k < kSize; k += kVector) {
+    const size_t valid = bytes > k ? std::min(bytes - k, kVector) : 0;
+    hn::Store(hn::MaskedLoad(hn::FirstN(d8, valid), d8,
+                             static_cast<const uint8_t*>(from) + k),
+              d8, static_cast<uint8_t*>(to) + k);
+  }
+#else
+  std::memset(to, 0, kSize);
+  std::memcpy(to, from, bytes);
+#endif
+}
+
+// The first `bytes` bytes of the aligned buffer `from` out to `to`.
+HWY_INLINE void CopyFromPadded(void* to, const void* from, size_t bytes) {
+#if HWY_TARGET <= HWY_AVX3
+  const hn::ScalableTag<uint8_t> d8;
+  constexpr size_t kVector = hn::MaxLanes(d8);
+  for (size_t k = 0; k < bytes; k += kVector) {
+    hn::BlendedStore(hn::Load(d8, static_cast<const uint8_t*>(from) + k),
+                     hn::FirstN(d8, std::min(bytes - k, kVector)), d8,
+                     static_cast<uint8_t*>(to) + k);
+  }
+#else
+  std::memcpy(to, from, bytes);
+#endif
+}
+
 // Applies `rule` to the first `count` samples, fewer than a vector, through
 // zero-padded stack copies so that nothing outside them is read or written.
 template <bool kKeepAlpha, class Rule, typename TA, typename TB, typename TO>
 HWY_INLINE void ApplyPartial(const Rule& rule, const TA* a, const TB* b,
                              TO* out, size_t count) {
   const auto d = rule.d;
-  HWY_ALIGN TA partA[HWY_MAX_BYTES] = {};
-  HWY_ALIGN TB partB[HWY_MAX_BYTES] = {};
-  HWY_ALIGN TO partOut[HWY_MAX_BYTES] = {};
-  std::memcpy(partA, a, count * sizeof(TA));
-  std::memcpy(partB, b, count * sizeof(TB));
+  constexpr size_t kLanes = hn::MaxLanes(decltype(rule.d)());
+  HWY_ALIGN TA partA[PaddedCount<TA>(kLanes)];
+  HWY_ALIGN TB partB[PaddedCount<TB>(kLanes)];
+  HWY_ALIGN TO partOut[PaddedCount<TO>(kLanes)];
+  CopyIntoPadded<sizeof(partA)>(partA, a, count * sizeof(TA));
+  CopyIntoPadded<sizeof(partB)>(partB, b, count * sizeof(TB));
   auto v = rule(partA, partB);
   if (kKeepAlpha) {
-    std::memcpy(partOut, out, count * sizeof(TO));
+    CopyIntoPadded<sizeof(partOut)>(partOut, out, count * sizeof(TO));
     v = hn::IfThenElse(AlphaLanes(d), hn::Load(d, partOut), v);
   }
   hn::Store(v, d, partOut);
-  std::memcpy(out, partOut, count * sizeof(TO));
+  CopyFromPadded(out, partOut, count * sizeof(TO));
 }
 
 // Streaming stores bypass the cache; they need a destination aligned to
@@ -106,20 +151,35 @@ HWY_INLINE bool StreamingHead(const TO* out, size_t lanes, size_t n,
 constexpr size_t kStreamingBytes = size_t{16} << 20;
 
 // Covers positions [0, n) of a row whose output `out` holds one result per
-// position, in groups of `lanes`: whole(i, streamed) for each whole group and
-// partial(i, count) for the rest. With `stream`, a partial head aligns out and
-// the groups after it get std::true_type for `streamed`, to store past the
-// cache.
-template <typename TO, class Whole, class Partial>
+// position, in groups of `lanes`: whole(i, streamed) for each whole group.
+// A row of at least one group that the groups do not fill ends in a group
+// that overlaps the one before it: last(i) computes it before anything is
+// stored, so in-place rows read their own samples, and returns the store to
+// make at the end. Shorter rows go to partial(i, count). With `stream`, a
+// partial head aligns out, the groups after it get std::true_type for
+// `streamed`, to store past the cache, and partial takes the rest.
+template <typename TO, class Whole, class Last, class Partial>
 HWY_INLINE void CoverRow(TO* out, size_t lanes, size_t n, bool stream,
-                         const Whole& whole, const Partial& partial) {
+                         const Whole& whole, const Last& last,
+                         const Partial& partial) {
   size_t i = 0;
   if (stream && StreamingHead(out, lanes, n, i)) {
     if (i != 0) partial(0, i);
     for (; i + lanes <= n; i += lanes) whole(i, std::true_type{});
+    if (i < n) partial(i, n - i);
+    return;
   }
-  for (; i + lanes <= n; i += lanes) whole(i, std::false_type{});
-  if (i < n) partial(i, n - i);
+  if (n < lanes) {
+    if (n != 0) partial(0, n);
+    return;
+  }
+  const auto groups = [&] {
+    for (; i + lanes <= n; i += lanes) whole(i, std::false_type{});
+  };
+  if (n % lanes == 0) return groups();
+  const auto storeLast = last(n - lanes);
+  groups();
+  storeLast();
 }
 
 // The store of a whole group that CoverRow handed `streamed`.
@@ -148,6 +208,14 @@ HWY_INLINE void ApplyRowImpl(const Rule& shared, const TA* a, const TB* b,
         auto v = rule(a + i, b + i);
         if (kKeepAlpha) v = hn::IfThenElse(alpha, hn::LoadU(d, out + i), v);
         StoreGroup(streamed, v, d, out + i);
+      },
+      [&](size_t i) {
+        const auto v = rule(a + i, b + i);
+        return [&, v, i] {
+          const auto kept =
+              kKeepAlpha ? hn::IfThenElse(alpha, hn::LoadU(d, out + i), v) : v;
+          hn::StoreU(kept, d, out + i);
+        };
       },
       [&](size_t i, size_t count) {
         ApplyPartial<kKeepAlpha>(rule, a + i, b + i, out + i, count);
