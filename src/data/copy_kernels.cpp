@@ -158,13 +158,19 @@ void SetAlpha(const SetJob& job) {
 
 // ---- Pixel groups ----------------------------------------------------------
 
+// How a kernel uses an operand: reads it, writes all of it, or writes part
+// of what it reads.
+enum class Access { kRead, kWrite, kUpdate };
+
 // One operand of a row: its first byte, the bytes from pixel to pixel, the
-// bytes from `p` that belong to the row, and whether it is written.
+// bytes from `p` that belong to the row, and how it is used.
 struct Operand {
   uint8_t* p;
   size_t pixelBytes;
   size_t extentBytes;
-  bool written;
+  Access access;
+  bool Read() const { return access != Access::kWrite; }
+  bool Written() const { return access != Access::kRead; }
 };
 
 // Calls body(at) for the first `groups` groups, two per turn. The pointers
@@ -202,24 +208,27 @@ HWY_INLINE void ForPixelGroups(size_t width, size_t lanes,
   WalkGroups(groups, lanes, s, body, std::make_index_sequence<K>());
   if (groups * lanes == width) return;
   std::array<uint8_t*, K> at;
-  HWY_ALIGN uint8_t tail[K][4 * HWY_MAX_BYTES] = {};
+  HWY_ALIGN uint8_t tail[K][4 * HWY_MAX_BYTES];
   size_t offset[K];
   for (size_t k = 0; k < K; ++k) {
     offset[k] = groups * lanes * s[k].pixelBytes;
-    std::memcpy(tail[k], s[k].p + offset[k], s[k].extentBytes - offset[k]);
+    if (s[k].Read()) {
+      CopyIntoPadded<sizeof(tail[k])>(tail[k], s[k].p + offset[k],
+                                      s[k].extentBytes - offset[k]);
+    }
     at[k] = tail[k];
   }
   body(at);
   for (size_t k = 0; k < K; ++k)
-    if (s[k].written)
-      std::memcpy(s[k].p + offset[k], tail[k], s[k].extentBytes - offset[k]);
+    if (s[k].Written())
+      CopyFromPadded(s[k].p + offset[k], tail[k], s[k].extentBytes - offset[k]);
 }
 
 // Row y of an image, as an operand.
 inline Operand OperandAt(const void* first, ptrdiff_t step, int y,
-                       size_t pixelBytes, size_t extentBytes, bool written) {
+                       size_t pixelBytes, size_t extentBytes, Access access) {
   return Operand{RowAt(static_cast<uint8_t*>(const_cast<void*>(first)), step, y),
-                pixelBytes, extentBytes, written};
+                pixelBytes, extentBytes, access};
 }
 
 // Byte counts of one row of w pixels of N samples T: all of it, from a
@@ -281,9 +290,9 @@ void CopyMasked(const CopyJob& job) {
   const RowBytes<T, N> b(job.width);
   for (int y = 0; y < job.height; ++y) {
     const std::array<Operand, 3> s = {
-        OperandAt(job.src[0], job.srcStep, y, b.pixel, b.whole, false),
-        OperandAt(job.dst[0], job.dstStep, y, b.pixel, b.whole, true),
-        OperandAt(job.mask, job.maskStep, y, 1, b.w, false)};
+        OperandAt(job.src[0], job.srcStep, y, b.pixel, b.whole, Access::kRead),
+        OperandAt(job.dst[0], job.dstStep, y, b.pixel, b.whole, Access::kUpdate),
+        OperandAt(job.mask, job.maskStep, y, 1, b.w, Access::kRead)};
     ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
       V from[N], to[N];
       LoadPixels(d, at[0], from);
@@ -312,8 +321,9 @@ void CopyChannels(const CopyJob& job) {
   constexpr size_t kMoved = kOneChannel ? 1 : 3;
   for (int y = 0; y < job.height; ++y) {
     const std::array<Operand, 2> s = {
-        OperandAt(job.src[0], job.srcStep, y, from.pixel, fromExtent, false),
-        OperandAt(job.dst[0], job.dstStep, y, to.pixel, toExtent, true)};
+        OperandAt(job.src[0], job.srcStep, y, from.pixel, fromExtent, Access::kRead),
+        OperandAt(job.dst[0], job.dstStep, y, to.pixel, toExtent,
+                  kMoved < ND ? Access::kUpdate : Access::kWrite)};
     ForPixelGroups(from.w, hn::Lanes(d), s, [&](const auto& at) {
       V in[NS], out[ND];
       LoadPixels(d, at[0], in);
@@ -343,7 +353,7 @@ size_t PixelsToAlignment(const std::array<Operand, K>& s, size_t vectorBytes,
   for (size_t h = 0; h < std::min(width, vectorBytes); ++h) {
     bool aligned = true;
     for (const Operand& operand : s)
-      if (operand.written &&
+      if (operand.Written() &&
           reinterpret_cast<uintptr_t>(operand.p + h * operand.pixelBytes) % vectorBytes)
         aligned = false;
     if (aligned) return h;
@@ -355,21 +365,23 @@ size_t PixelsToAlignment(const std::array<Operand, K>& s, size_t vectorBytes,
 // first aligned group take ordinary stores, the rest stores past the cache.
 template <size_t K, class Body>
 HWY_INLINE void ForPixelGroupsPast(size_t width, size_t lanes, size_t vectorBytes,
-                                   bool bypass, std::array<Operand, K> s,
+                                   bool bypass, const std::array<Operand, K>& s,
                                    const Body& body) {
   const auto ordinary = [&](const auto& at) { body(at, std::false_type()); };
-  const size_t head = bypass ? PixelsToAlignment(s, vectorBytes, width) : width;
+  if (!bypass) return ForPixelGroups(width, lanes, s, ordinary);
+  const size_t head = PixelsToAlignment(s, vectorBytes, width);
   if (head > 0) {
     std::array<Operand, K> first = s;
     for (Operand& operand : first) operand.extentBytes = head * operand.pixelBytes;
     ForPixelGroups(head, lanes, first, ordinary);
   }
   if (head == width) return;
-  for (Operand& operand : s) {
+  std::array<Operand, K> rest = s;
+  for (Operand& operand : rest) {
     operand.p += head * operand.pixelBytes;
     operand.extentBytes -= head * operand.pixelBytes;
   }
-  ForPixelGroups(width - head, lanes, s,
+  ForPixelGroups(width - head, lanes, rest,
                  [&](const auto& at) { body(at, std::true_type()); });
 }
 
@@ -393,9 +405,9 @@ void CopySplit(const CopyJob& job) {
                       PlanarBypassBytes(job.kind, N, sizeof(T));
   for (int y = 0; y < job.height; ++y) {
     std::array<Operand, N + 1> s;
-    s[0] = OperandAt(job.src[0], job.srcStep, y, b.pixel, b.whole, false);
+    s[0] = OperandAt(job.src[0], job.srcStep, y, b.pixel, b.whole, Access::kRead);
     for (size_t c = 0; c < N; ++c)
-      s[c + 1] = OperandAt(job.dst[c], job.dstStep, y, sizeof(T), b.plane, true);
+      s[c + 1] = OperandAt(job.dst[c], job.dstStep, y, sizeof(T), b.plane, Access::kWrite);
     ForPixelGroupsPast(b.w, hn::Lanes(d), hn::Lanes(d) * sizeof(T), bypass, s,
                        [&](const auto& at, auto past) {
                          V v[N];
@@ -418,9 +430,9 @@ void CopyJoin(const CopyJob& job) {
                       PlanarBypassBytes(job.kind, N, sizeof(T));
   for (int y = 0; y < job.height; ++y) {
     std::array<Operand, N + 1> s;
-    s[0] = OperandAt(job.dst[0], job.dstStep, y, b.pixel, b.whole, true);
+    s[0] = OperandAt(job.dst[0], job.dstStep, y, b.pixel, b.whole, Access::kWrite);
     for (size_t c = 0; c < N; ++c)
-      s[c + 1] = OperandAt(job.src[c], job.srcStep, y, sizeof(T), b.plane, false);
+      s[c + 1] = OperandAt(job.src[c], job.srcStep, y, sizeof(T), b.plane, Access::kRead);
     ForPixelGroupsPast(b.w, lanes, lanes * sizeof(T), bypass, s,
                        [&](const auto& at, auto past) {
       V v[N];
@@ -453,8 +465,8 @@ void SetMasked(const SetJob& job) {
   for (size_t c = 0; c < N; ++c) fill[c] = hn::Set(d, value[c]);
   for (int y = 0; y < job.height; ++y) {
     const std::array<Operand, 2> s = {
-        OperandAt(job.dst, job.dstStep, y, b.pixel, b.whole, true),
-        OperandAt(job.mask, job.maskStep, y, 1, b.w, false)};
+        OperandAt(job.dst, job.dstStep, y, b.pixel, b.whole, Access::kUpdate),
+        OperandAt(job.mask, job.maskStep, y, 1, b.w, Access::kRead)};
     ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
       V to[N];
       LoadPixels(d, at[0], to);
@@ -477,7 +489,7 @@ void SetChannel(const SetJob& job) {
   const V fill = hn::Set(d, value);
   for (int y = 0; y < job.height; ++y) {
     const std::array<Operand, 1> s = {
-        OperandAt(job.dst, job.dstStep, y, b.pixel, b.channel, true)};
+        OperandAt(job.dst, job.dstStep, y, b.pixel, b.channel, Access::kUpdate)};
     ForPixelGroups(b.w, hn::Lanes(d), s, [&](const auto& at) {
       V to[N];
       LoadPixels(d, at[0], to);

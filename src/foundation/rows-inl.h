@@ -83,10 +83,17 @@ HWY_INLINE void CopyIntoPadded(void* to, const void* from, size_t bytes) {
   constexpr size_t kVector = hn::MaxLanes(d8);
   static_assert(kSize % kVector == 0);
   for (size_t k = 0; k < kSize; k += kVector) {
+    // Chunks past the end are plain zeros: a masked load with no lane to
+    // load still costs as much as a full one.
     const size_t valid = bytes > k ? std::min(bytes - k, kVector) : 0;
-    hn::Store(hn::MaskedLoad(hn::FirstN(d8, valid), d8,
-                             static_cast<const uint8_t*>(from) + k),
-              d8, static_cast<uint8_t*>(to) + k);
+    uint8_t* chunk = static_cast<uint8_t*>(to) + k;
+    if (valid == 0) {
+      hn::Store(hn::Zero(d8), d8, chunk);
+    } else {
+      hn::Store(hn::MaskedLoad(hn::FirstN(d8, valid), d8,
+                               static_cast<const uint8_t*>(from) + k),
+                d8, chunk);
+    }
   }
 #else
   std::memset(to, 0, kSize);
