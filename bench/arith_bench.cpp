@@ -58,4 +58,37 @@ void BM_cv_multiply_16s(benchmark::State& state) {
 }
 BENCHMARK(BM_cv_multiply_16s)->Apply(ImageArgs);
 
+// Regions 1000, 40 and 8 samples wide in the 512 rows of a 1088-wide image:
+// the end of every row is a partial vector.
+void RegionArgs(benchmark::internal::Benchmark* b) {
+  for (int width : {1000, 40, 8}) b->Args({width});
+  b->ArgNames({"w"});
+  b->UseRealTime();
+}
+
+template <class Op>
+void RunRegion(benchmark::State& state, Op op) {
+  vok_bench::SetThreads(1);
+  const Mat a = vok_bench::RandomMat(1088, 512, CV_32FC1, 1);
+  const Mat b = vok_bench::RandomMat(1088, 512, CV_32FC1, 2);
+  Mat d(a.size(), a.type());
+  const cv::Rect region(0, 0, int(state.range(0)), 512);
+  Mat ra = a(region), rb = b(region), rd = d(region);
+  for (auto _ : state) op(ra, rb, rd);
+  vok_bench::CountBytes(state, ra, 3);
+}
+
+void BM_vok_Add_32f_C1R_Region(benchmark::State& state) {
+  RunRegion(state, [](const Mat& a, const Mat& b, Mat& d) {
+    vokiAdd_32f_C1R(a.ptr<float>(), a.step, b.ptr<float>(), b.step, d.ptr<float>(),
+                    d.step, Roi(a));
+  });
+}
+BENCHMARK(BM_vok_Add_32f_C1R_Region)->Apply(RegionArgs);
+
+void BM_cv_add_32f_Region(benchmark::State& state) {
+  RunRegion(state, [](const Mat& a, const Mat& b, Mat& d) { cv::add(a, b, d); });
+}
+BENCHMARK(BM_cv_add_32f_Region)->Apply(RegionArgs);
+
 }  // namespace
