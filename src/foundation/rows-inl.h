@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <type_traits>
 
 #include "foundation/image.h"
@@ -180,13 +181,11 @@ HWY_INLINE void CoverRow(TO* out, size_t lanes, size_t n, bool stream,
     if (n != 0) partial(0, n);
     return;
   }
-  const auto groups = [&] {
-    for (; i + lanes <= n; i += lanes) whole(i, std::false_type{});
-  };
-  if (n % lanes == 0) return groups();
-  const auto storeLast = last(n - lanes);
-  groups();
-  storeLast();
+  // One loop for both cases: the compiler inlines `whole` at few call sites.
+  std::optional<decltype(last(0))> storeLast;
+  if (n % lanes != 0) storeLast.emplace(last(n - lanes));
+  for (; i + lanes <= n; i += lanes) whole(i, std::false_type{});
+  if (storeLast) (*storeLast)();
 }
 
 // The store of a whole group that CoverRow handed `streamed`.
