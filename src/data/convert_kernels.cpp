@@ -153,12 +153,14 @@ struct FromFloatRule {
     const auto rounded = [&](size_t k) {
       return RoundInMode(range.Upper(df, hn::LoadU(df, a + k * n)));
     };
+    // Named in address order: the loads then walk the row forwards.
+    const auto r0 = rounded(0), r1 = rounded(1);
     if constexpr (sizeof(TD) == 2) {
-      return InLaneOrder<2>(d, PackBlocks<TD>(rounded(0), rounded(1)));
+      return InLaneOrder<2>(d, PackBlocks<TD>(r0, r1));
     } else {
-      return InLaneOrder<4>(
-          d, PackBlocks<TD>(PackBlocks<int16_t>(rounded(0), rounded(1)),
-                            PackBlocks<int16_t>(rounded(2), rounded(3))));
+      const auto r2 = rounded(2), r3 = rounded(3);
+      return InLaneOrder<4>(d, PackBlocks<TD>(PackBlocks<int16_t>(r0, r1),
+                                              PackBlocks<int16_t>(r2, r3)));
     }
   }
 };
