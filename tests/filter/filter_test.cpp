@@ -64,40 +64,22 @@ struct Form {
 template <typename T, typename TK>
 std::vector<Form<T, TK>> Forms();
 
+#define FORMS_OF(TS, TKS, rect, row, column)                 \
+  template <>                                               \
+  std::vector<Form<TS, TKS>> Forms() {                      \
+    using T = TS;                                           \
+    using TK = TKS;                                         \
+    return FORMS(rect, row, column);                        \
+  }
 #define DIVISOR , dv
-template <>
-std::vector<Form<Vok8u, Vok32s>> Forms() {
-  using T = Vok8u;
-  using TK = Vok32s;
-  return FORMS(vokiFilter_8u, vokiFilterRow_8u, vokiFilterColumn_8u);
-}
-template <>
-std::vector<Form<Vok16s, Vok32s>> Forms() {
-  using T = Vok16s;
-  using TK = Vok32s;
-  return FORMS(vokiFilter_16s, vokiFilterRow_16s, vokiFilterColumn_16s);
-}
+FORMS_OF(Vok8u, Vok32s, vokiFilter_8u, vokiFilterRow_8u, vokiFilterColumn_8u)
+FORMS_OF(Vok16s, Vok32s, vokiFilter_16s, vokiFilterRow_16s, vokiFilterColumn_16s)
 #undef DIVISOR
 #define DIVISOR
-template <>
-std::vector<Form<Vok8u, Vok32f>> Forms() {
-  using T = Vok8u;
-  using TK = Vok32f;
-  return FORMS(vokiFilter32f_8u, vokiFilterRow32f_8u, vokiFilterColumn32f_8u);
-}
-template <>
-std::vector<Form<Vok16s, Vok32f>> Forms() {
-  using T = Vok16s;
-  using TK = Vok32f;
-  return FORMS(vokiFilter32f_16s, vokiFilterRow32f_16s,
-               vokiFilterColumn32f_16s);
-}
-template <>
-std::vector<Form<Vok32f, Vok32f>> Forms() {
-  using T = Vok32f;
-  using TK = Vok32f;
-  return FORMS(vokiFilter_32f, vokiFilterRow_32f, vokiFilterColumn_32f);
-}
+FORMS_OF(Vok8u, Vok32f, vokiFilter32f_8u, vokiFilterRow32f_8u, vokiFilterColumn32f_8u)
+FORMS_OF(Vok16s, Vok32f, vokiFilter32f_16s, vokiFilterRow32f_16s, vokiFilterColumn32f_16s)
+FORMS_OF(Vok32f, Vok32f, vokiFilter_32f, vokiFilterRow_32f, vokiFilterColumn_32f)
+#undef FORMS_OF
 #undef DIVISOR
 
 // ---- The model ---------------------------------------------------------------
